@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// Builds EDID blocks for tests: a usable header of version 1.3, the rest empty until it is set.
+#pragma once
+
+#include "display/monitor/edid.h"
+
+#include <QByteArray>
+
+class EdidBlock
+{
+public:
+    EdidBlock() { set(0, "00ffffffffffff00").set(18, "0103"); }
+
+    EdidBlock &set(int offset, const char *hex)
+    {
+        const QByteArray bytes = QByteArray::fromHex(hex);
+        m_bytes.replace(offset, bytes.size(), bytes);
+        return *this;
+    }
+
+    // A display descriptor (name, range limits, ...) in one of the four slots, counted from 0.
+    EdidBlock &descriptor(int slot, char tag, const QByteArray &data)
+    {
+        m_bytes.replace(54 + 18 * slot, 5 + data.size(), QByteArray(3, '\0') + tag + '\0' + data);
+        return *this;
+    }
+
+    // A detailed timing in one of the four slots; the clock is in 10 kHz.
+    EdidBlock &timing(int slot, int clock, int width, int blankWidth, int height, int blankHeight)
+    {
+        char *out = m_bytes.data() + 54 + 18 * slot;
+        const int wide = (width >> 8) << 4 | blankWidth >> 8;
+        const int high = (height >> 8) << 4 | blankHeight >> 8;
+        for (int byte : {clock, clock >> 8, width, blankWidth, wide, height, blankHeight, high})
+            *out++ = char(byte);
+        return *this;
+    }
+
+    const unsigned char *bytes() const
+    {
+        return reinterpret_cast<const unsigned char *>(m_bytes.constData());
+    }
+
+    operator QByteArray() const { return m_bytes; }
+
+private:
+    QByteArray m_bytes = QByteArray(EDID_BLOCK_SIZE, '\0');
+};

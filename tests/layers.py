@@ -1,0 +1,46 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Fails when a source file includes what its layer may not; see docs/architecture.md."""
+
+import pathlib
+import re
+import sys
+
+# The most specific place first. A place may always include itself.
+LAYERS = {
+    'libOxUtils/': [],
+    'display/monitor/': [],
+    'display/': ['display/monitor/', 'libOxUtils/'],
+    'maintenance/identity/': ['libOxUtils/'],
+    'app/globalvars': ['maintenance/identity/', 'libOxUtils/'],
+    'maintenance/': ['maintenance/identity/', 'app/globalvars', 'libOxUtils/'],
+    'app/': ['display/', 'display/monitor/', 'maintenance/', 'maintenance/identity/',
+             'app/globalvars', 'libOxUtils/'],
+}
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+
+
+def place_of(path):
+    return next((place for place in LAYERS if path.startswith(place)), None)
+
+
+def breaches():
+    for source in sorted(ROOT.glob('*/**/*')):
+        name = source.relative_to(ROOT).as_posix()
+        place = place_of(name)
+        if place is None or source.suffix not in ('.h', '.cpp'):
+            continue
+        text = source.read_text(encoding='utf-8')
+        if not text.startswith('// SPDX-License-Identifier: '):
+            yield f'{name}: no SPDX line'
+        for included in re.findall(r'^\s*#\s*include\s+["<]([^">]+)', text, re.M):
+            target = place_of(included)
+            if target not in (None, place, *LAYERS[place]):
+                yield f'{name}: may not include {included}'
+            if place == 'display/monitor/' and included.startswith('Q'):
+                yield f'{name}: {included} is Qt'
+
+
+found = list(breaches())
+print('\n'.join(found) or 'all layers are kept')
+sys.exit(1 if found else 0)
