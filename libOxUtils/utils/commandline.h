@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// Starting a program whose command line comes in one string: it is split at blanks, double
+// quotes group a word that holds blanks, and no shell is involved (no pipes, redirections,
+// variables or wildcards).
+#pragma once
+
+#include <QString>
+
+class QProcess;
+
+// Starts the command read-write. Whether it really starts shows in QProcess::waitForStarted();
+// a command without any word fails to start.
+void startCommand(QProcess &process, const QString &command);
+
+// Starts the command on its own, so that it outlives this program. False: it could not be
+// started, or the command holds no word.
+bool startDetachedCommand(const QString &command);

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// Collects what goes to the toolkit's log while it lives, then gives the log back.
+#pragma once
+
+#include <QStringList>
+#include <QVector>
+#include <QtGlobal>
+
+class LogCapture
+{
+public:
+    struct Message
+    {
+        QtMsgType type;
+        QString file;
+        int line;
+        QString function;
+        QString category;
+        QString text;
+    };
+
+    LogCapture()
+        : m_previous(qInstallMessageHandler(&LogCapture::collect))
+    {
+        s_messages.clear();
+    }
+    ~LogCapture() { qInstallMessageHandler(m_previous); }
+    Q_DISABLE_COPY(LogCapture)
+
+    static const QVector<Message> &messages() { return s_messages; }
+
+    // The messages of one source file (the toolkit's own have none), each behind a letter: D for
+    // debug, C for critical.
+    static QStringList texts(const QString &file)
+    {
+        QStringList result;
+        for (const Message &message : qAsConst(s_messages)) {
+            if (message.file != file)
+                continue;
+            const QString letter = message.type == QtDebugMsg      ? QStringLiteral("D ")
+                                   : message.type == QtCriticalMsg ? QStringLiteral("C ")
+                                                                   : QStringLiteral("? ");
+            result.append(letter + message.text);
+        }
+        return result;
+    }
+
+private:
+    static void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
+    {
+        s_messages.append({type, QString::fromUtf8(context.file), context.line,
+                           QString::fromUtf8(context.function), QString::fromUtf8(context.category),
+                           text});
+    }
+
+    static inline QVector<Message> s_messages;
+    QtMessageHandler m_previous;
+};
