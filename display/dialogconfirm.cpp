@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "display/dialogconfirm.h"
+
+#include "display/screenkeeper.h"
+#include "ui_dialogconfirm.h"
+
+namespace {
+
+constexpr int COUNTDOWN_SECONDS = 30;
+constexpr int TICK_MS = 1000;
+
+} // namespace
+
+DialogConfirm::DialogConfirm(QWidget *parent)
+    : QDialog(parent)
+    , ui(new Ui::DialogConfirm)
+    , m_secondsLeft(COUNTDOWN_SECONDS)
+{
+    ui->setupUi(this);
+    showSecondsLeft();
+    connect(ui->m_btnRestorePreConfig, &QPushButton::clicked, this,
+            &DialogConfirm::btnRestorePreConfig_clicked);
+    connect(ui->m_btnKeepThisConfig, &QPushButton::clicked, this,
+            &DialogConfirm::btnKeepThisConfig_clicked);
+    connect(&m_countdown, &QTimer::timeout, this, &DialogConfirm::countdown_timeout);
+    new ScreenKeeper(this);
+    m_countdown.start(TICK_MS);
+}
+
+DialogConfirm::~DialogConfirm() = default;
+
+void DialogConfirm::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    // Whoever types on without looking must end up with the mode that could be seen before.
+    ui->m_btnRestorePreConfig->setFocus();
+    raise();
+    activateWindow();
+}
+
+void DialogConfirm::btnRestorePreConfig_clicked()
+{
+    reject();
+}
+
+void DialogConfirm::btnKeepThisConfig_clicked()
+{
+    accept();
+}
+
+void DialogConfirm::countdown_timeout()
+{
+    --m_secondsLeft;
+    showSecondsLeft();
+    ui->m_lblQuestion->repaint();
+    if (m_secondsLeft < 1)
+        reject();
+}
+
+void DialogConfirm::showSecondsLeft()
+{
+    ui->m_lblQuestion->setText(
+        tr("The display will be reset to its previous configuration in %1 seconds")
+            .arg(m_secondsLeft));
+}

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "display/modetext.h"
+
+#include "display/monitor/modes.h"
+
+namespace {
+
+constexpr quint32 DEFAULT_REFRESH_HZ = 60;
+
+}
+
+ModeTextResult parseModeText(const QString &text, quint32 &width, quint32 &height,
+                             quint32 &refreshRate)
+{
+    QString mode = text;
+    mode.remove(QLatin1Char('M'), Qt::CaseInsensitive);
+
+    const int x = mode.indexOf(QLatin1Char('x'), 0, Qt::CaseInsensitive);
+    const int at = mode.indexOf(QLatin1Char('@'));
+    if (x < 0)
+        return ModeTextResult::NoWidth;
+
+    bool ok = false;
+    width = mode.left(x).trimmed().toUInt(&ok);
+    if (!ok)
+        return ModeTextResult::NoWidth;
+
+    if (at < 0) {
+        height = mode.mid(x + 1).trimmed().toUInt(&ok);
+        refreshRate = DEFAULT_REFRESH_HZ;
+    } else {
+        // Whether the height is a number is not asked here, on purpose: boxes in the field must
+        // go on accepting what their boot environment holds.
+        height = mode.mid(x + 1, qMax(0, at - x - 1)).toUInt();
+        refreshRate = mode.mid(at + 1).toUInt(&ok);
+    }
+    return ok ? ModeTextResult::Read : ModeTextResult::LastIsBad;
+}
+
+QString modeText(quint32 width, quint32 height, quint32 refreshRate)
+{
+    return QStringLiteral("%1x%2@%3")
+        .arg(QString::number(width), QString::number(height), QString::number(refreshRate));
+}
+
+QString modeItem(quint32 width, quint32 height)
+{
+    return QString::fromStdString(modeItemText(width, height));
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "display/screenkeeper.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+QPoint placeOnScreen(const QRect &rect, const QRect &area)
+{
+    const int right = area.right() - rect.width() + 1;
+    const int bottom = area.bottom() - rect.height() + 1;
+    return {qMax(area.left(), qMin(rect.left(), right)),
+            qMax(area.top(), qMin(rect.top(), bottom))};
+}
+
+ScreenKeeper::ScreenKeeper(QWidget *window)
+    : QObject(window)
+    , m_window(window)
+{
+    window->installEventFilter(this);
+    // The box has one screen, and it keeps its identity over a change of mode.
+    connect(QGuiApplication::primaryScreen(), &QScreen::availableGeometryChanged, this,
+            &ScreenKeeper::moveOntoScreen);
+}
+
+bool ScreenKeeper::eventFilter(QObject *watched, QEvent *event)
+{
+    // The window manager has its say about the place between showing and activation.
+    if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
+        moveOntoScreen();
+    return QObject::eventFilter(watched, event);
+}
+
+void ScreenKeeper::moveOntoScreen()
+{
+    const QRect frame = m_window->frameGeometry();
+    const QPoint place =
+        placeOnScreen(frame, QGuiApplication::primaryScreen()->availableGeometry());
+    if (place != frame.topLeft())
+        m_window->move(place);
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "maintenance/identity/keptlines.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTextStream>
+
+QStringList keptLines(const QString &path)
+{
+    QStringList lines;
+    // A pipe could keep the window waiting, and a device need not end.
+    if (!QFileInfo(path).isFile())
+        return lines;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return lines;
+    QTextStream stream(&file);
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
+        if (!line.isEmpty())
+            lines << line;
+    }
+    return lines;
+}
+
+bool firstKeptLine(const QString &path, QString &line)
+{
+    const QStringList lines = keptLines(path);
+    line = lines.isEmpty() ? QString() : lines.first().trimmed();
+    return !lines.isEmpty();
+}
+
+bool lastKeptLine(const QString &path, QString &line)
+{
+    const QStringList lines = keptLines(path);
+    line = lines.isEmpty() ? QString() : lines.last().trimmed();
+    return !lines.isEmpty();
+}

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// Modal dialogs in tests: answers them while exec() holds the test, and fails the test instead of
+// hanging when a dialog does not come, does not close, or was not expected.
+#pragma once
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+// Calls one action for each modal dialog that appears, in order. A dialog that opens while another
+// one is up (a message box, say) takes the next action. Declare it before the call that opens the
+// first dialog; at the end of its scope every action must have been used.
+class ModalAnswers : public QObject
+{
+public:
+    using Action = std::function<void(QWidget *)>;
+
+    explicit ModalAnswers(std::vector<Action> actions, int timeoutMs = 5000)
+        : m_actions(std::move(actions))
+        , m_timeoutMs(timeoutMs)
+    {
+        m_sinceLast.start();
+        connect(&m_poll, &QTimer::timeout, this, &ModalAnswers::look);
+        m_poll.start(5);
+    }
+
+    ~ModalAnswers() override
+    {
+        if (m_used < m_actions.size() && !QTest::currentTestFailed())
+            fail("a modal dialog did not appear");
+    }
+
+private:
+    static void fail(const char *why) { QTest::qFail(why, __FILE__, __LINE__); }
+
+    void look()
+    {
+        QWidget *const dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            return;
+        if (m_used < m_actions.size() && !m_seen.contains(dialog)) {
+            m_seen.append(dialog);
+            m_sinceLast.restart();
+            // Queued: a timer does not fire again while its own slot runs, but the action may open
+            // another dialog.
+            QTimer::singleShot(0, dialog, [this, dialog, action = m_actions[m_used++]] {
+                action(dialog);
+                m_sinceLast.restart();
+            });
+        } else if (m_sinceLast.hasExpired(m_timeoutMs)) {
+            fail("an unexpected modal dialog, or one that did not close");
+            dialog->close();
+        }
+    }
+
+    const std::vector<Action> m_actions;
+    const int m_timeoutMs;
+    std::size_t m_used = 0;
+    QList<QPointer<QWidget>> m_seen;
+    QElapsedTimer m_sinceLast;
+    QTimer m_poll;
+};
+
+// Presses a standard button of a dialog or message box; fails when it has none such.
+inline void pressButton(QWidget *dialog, QDialogButtonBox::StandardButton which)
+{
+    const auto *box = dialog->findChild<QDialogButtonBox *>();
+    QPushButton *const button = box ? box->button(which) : nullptr;
+    if (button)
+        button->click();
+    else
+        QTest::qFail("no such button", __FILE__, __LINE__);
+}

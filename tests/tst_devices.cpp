@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "display/fbdevice.h"
+#include "display/i2cdevice.h"
+
+#include "tests/logcapture.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <thread>
+
+class TestDevices : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void opensOnceAndWrites();
+    void movesAllThroughStutteringPipe();
+    void baseDeviceFailures();
+    void fbDeviceFailures();
+
+private:
+    QString newFile(const char *name) const;
+
+    const QTemporaryDir m_directory;
+};
+
+// A file that holds "ab".
+QString TestDevices::newFile(const char *name) const
+{
+    QFile file(m_directory.filePath(QString::fromLatin1(name)));
+    file.open(QIODevice::WriteOnly);
+    file.write("ab");
+    return file.fileName();
+}
+
+void TestDevices::opensOnceAndWrites()
+{
+    QFile first(newFile("first"));
+    QFile second(newFile("second"));
+    I2CDevice device;
+    QVERIFY(device.CloseDevice());
+    QVERIFY(device.OpenDevice(first.fileName()));
+    QVERIFY(device.OpenDevice(second.fileName()));
+    QVERIFY(device.WriteString(QString()));
+    QVERIFY(device.WriteString(QStringLiteral("1")));
+    QCOMPARE(device.WriteBytes(nullptr, 0), 0);
+    QVERIFY(!device.ReadExact(nullptr, -1));
+    QVERIFY(first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly));
+    QCOMPARE(first.readAll(), QByteArray("1b"));
+    QCOMPARE(second.readAll(), QByteArray("ab"));
+
+    QVERIFY(!device.WriteString(QStringLiteral("\u00b0"))); // one character, two bytes
+    first.seek(0);
+    QCOMPARE(first.readAll(), QByteArray("1\xc2\xb0"));
+    QVERIFY(device.CloseDevice());
+    QVERIFY(device.CloseDevice());
+}
+
+// More than a pipe holds, and neither end waits: both see partial transfers and errors.
+void TestDevices::movesAllThroughStutteringPipe()
+{
+    const QString path = m_directory.filePath(QStringLiteral("pipe"));
+    QCOMPARE(::mkfifo(path.toUtf8().constData(), 0600), 0);
+    QByteArray sent(300001, Qt::Uninitialized);
+    for (int i = 0; i < sent.size(); ++i)
+        sent[i] = static_cast<char>(i % 251);
+    QByteArray received(sent.size(), '\0');
+
+    BaseDevice from;
+    BaseDevice to;
+    for (BaseDevice *device : {&from, &to}) {
+        QVERIFY(device->OpenDevice(path));
+        QCOMPARE(::fcntl(device->Descriptor(), F_SETFL, O_RDWR | O_NONBLOCK), 0);
+    }
+    int written = 0;
+    std::thread writer([&] { written = from.WriteBytes(sent.constData(), sent.size()); });
+    const bool complete = to.ReadExact(received.data(), received.size());
+    writer.join();
+    QVERIFY(complete);
+    QCOMPARE(written, sent.size());
+    QVERIFY(received == sent);
+}
+
+void TestDevices::baseDeviceFailures()
+{
+    const LogCapture log;
+    BaseDevice device;
+    QVERIFY(!device.OpenDevice(QStringLiteral("/nowhere/%1")));
+    QCOMPARE(device.GetErrorString(), QStringLiteral("Error opening /nowhere/%1. "));
+    QCOMPARE(device.Descriptor(), -1);
+    QCOMPARE(log.messages().last().function,
+             QStringLiteral("virtual bool BaseDevice::OpenDevice(const QString&)"));
+
+    QVERIFY(device.OpenDevice(newFile("closed")));
+    const int descriptor = device.Descriptor();
+    ::close(descriptor);
+    QVERIFY(!device.CloseDevice());
+    QCOMPARE(device.Descriptor(), descriptor);
+    QCOMPARE(device.GetErrorString(), QStringLiteral("Close file error. Errno is: 9"));
+    QCOMPARE(log.texts(QStringLiteral("basedevice")),
+             QStringList({QStringLiteral("C \"Error opening /nowhere/%1. \""),
+                          QStringLiteral("C \"Close file error. Errno is: 9\"")}));
+}
+
+void TestDevices::fbDeviceFailures()
+{
+    const LogCapture log;
+    FbDevice *const device = FbDevice::Instance();
+    QVERIFY(device->CloseDevice());
+    QVERIFY(!device->OpenDevice(QStringLiteral("/nowhere/%1")));
+    QVERIFY(!device->SetGamma(1.0F));
+    QVERIFY(FbDevice::Instance()->OpenDevice(newFile("no framebuffer")));
+    QVERIFY(device->OpenDevice(QStringLiteral("/nowhere/ignored")));
+    QVERIFY(!device->SetGamma(1.0F));
+    QVERIFY(!device->GetVarScreenInfo());
+    FbDevice::ReleaseInstance();
+    QCOMPARE(log.texts(QStringLiteral("fbdevice")),
+             QStringList({
+                 QStringLiteral("C Error opening \"/nowhere/%1\". "),
+                 QStringLiteral("C Ioctl MXCFB_SET_GAMMA fail! Bad file descriptor"),
+                 QStringLiteral("C Ioctl MXCFB_SET_GAMMA fail! Inappropriate ioctl for device"),
+                 QStringLiteral("C Ioctl FBIOGET_VSCREENINFO fail! Inappropriate ioctl for device"),
+             }));
+}
+
+QTEST_GUILESS_MAIN(TestDevices)
+#include "tst_devices.moc"
