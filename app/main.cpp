@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#define OX_LOG_FILE "main"
+#define OX_LOG_FIXED_POSITIONS 37, 43, 49
+#include "app/dialogmain.h"
+#include "app/globalvars.h"
+#include "app/modalfocusguard.h"
+#include "app/qtsingleapplication.h"
+#include "app/startup.h"
+#include "libOxUtils/utils/log.h"
+#include "maintenance/identity/appversion.h"
+
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <cstdio>
+
+int main(int argc, char *argv[])
+{
+    if (isVersionQuery(argc, argv)) {
+        std::printf("moniconf %s\n", GetAppVersion().toUtf8().constData());
+        return 0;
+    }
+
+    GlIntegrationSetting glSetting;
+    QtSingleApplication app(argc, argv, true);
+    glSetting.settle();
+
+    // A running instance does not come to the front: it answers, and that is all.
+    if (app.sendMessage(QStringLiteral("Wake up!"), 5000))
+        return 0;
+
+    GlobalVars::Init();
+    installApplicationFont(QStringLiteral("/usr/share/fonts/ttf/msyh.ttf"), 9);
+    oxlog::debug(OX_LOG_AT(37), QApplication::font().family());
+
+    const QString failed = QStringLiteral("Loading %1 failed.");
+    const QString locale = QLocale::system().name();
+
+    QTranslator toolkitTranslator;
+    const QString toolkitCatalogue = QStringLiteral("qt_%1.qm").arg(locale);
+    if (!toolkitTranslator.load(toolkitCatalogue,
+                                QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        oxlog::critical(OX_LOG_AT(43), failed.arg(toolkitCatalogue));
+    QCoreApplication::installTranslator(&toolkitTranslator);
+
+    QTranslator ownTranslator;
+    const QString ownCatalogue =
+        QStringLiteral("%1_%2.qm").arg(QCoreApplication::applicationName(), locale);
+    if (!ownTranslator.load(ownCatalogue, QCoreApplication::applicationDirPath()))
+        oxlog::critical(OX_LOG_AT(49), failed.arg(ownCatalogue));
+    QCoreApplication::installTranslator(&ownTranslator);
+
+    ModalFocusGuard focusGuard;
+    app.installNativeEventFilter(&focusGuard);
+
+    DialogMain dialog;
+    dialog.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "app/mouselabel.h"
+
+#include <QEvent>
+
+MouseLabel::MouseLabel(QWidget *parent)
+    : QLabel(parent)
+{
+}
+
+bool MouseLabel::event(QEvent *event)
+{
+    // Only the second sheet ends in a semicolon. Both texts are fixed; do not align them.
+    switch (event->type()) {
+    case QEvent::Enter:
+        setStyleSheet(QStringLiteral("color: blue"));
+        return true;
+    case QEvent::Leave:
+        setStyleSheet(QStringLiteral("color: black;"));
+        return true;
+    default:
+        return QLabel::event(event);
+    }
+}
+
+void MouseLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/)
+{
+    emit mouseDoubleClicked();
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// The shell profile's line that sets the locale.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// The line that a choice in the language box stands for. The choice is compared with the
+// untranslated word "Chinese"; everything else, a translation of it included, means English.
+QByteArray localeLine(const QString &language);
+
+// The offset in bytes at which the locale line is written: the start of the first line that holds
+// "export LANG" anywhere, in a comment as well, or the end of the profile.
+qint64 localeLineOffset(const QByteArray &profile);
+
+// Writes line over what stands at that offset of the file, in place: nothing is cut off or moved,
+// and no line end is added. False when the file cannot be opened for reading and writing; it is
+// not created. Errors of the write itself are not looked at.
+bool writeLocaleLine(const QString &fileName, const QByteArray &line);

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "app/qtsingleapplication.h"
+
+#define OX_LOG_FILE "qtsingleapplication"
+#include "libOxUtils/utils/log.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QThread>
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+// A lock older than this whose owner does not hold the kernel's lock on the file is stale,
+// whatever stands in it: a power cut can leave it empty. The time spans the moment between the
+// creation of the file and the kernel's lock on it.
+constexpr int STALE_LOCK_MS = 1000;
+
+constexpr int RETRY_MS = 20;
+constexpr char END_OF_MESSAGE = '\0';
+constexpr char ANSWER = '\x06'; // ASCII acknowledge
+constexpr qint64 MAX_MESSAGE_BYTES = 64 * 1024;
+
+QString basePath()
+{
+    return QStringLiteral("%1/%2-%3")
+        .arg(QDir::tempPath(), QCoreApplication::applicationName(), QString::number(getuid()));
+}
+
+// The kernel's word for who is at the other end; a file's owner in /tmp proves nothing.
+bool isPeerSameUser(const QLocalSocket &socket)
+{
+    ucred peer = {};
+    socklen_t length = sizeof(peer);
+    const int fd = static_cast<int>(socket.socketDescriptor());
+    return getsockopt(fd, SOL_SOCKET, SO_PEERCRED, &peer, &length) == 0 && peer.uid == getuid();
+}
+
+void answerWhenComplete(QLocalSocket *peer)
+{
+    if (peer->peek(MAX_MESSAGE_BYTES).contains(END_OF_MESSAGE)) {
+        peer->write(&ANSWER, 1);
+        peer->disconnectFromServer();
+    } else if (peer->bytesAvailable() >= MAX_MESSAGE_BYTES) {
+        peer->abort();
+    }
+}
+
+// True when the running instance has answered.
+bool exchange(QLocalSocket &socket, const QString &message, const QDeadlineTimer &deadline)
+{
+    const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+
+    socket.write(message.toUtf8() + END_OF_MESSAGE);
+    while (socket.bytesToWrite() > 0) {
+        if (!socket.waitForBytesWritten(remaining()))
+            return false;
+    }
+    char answer = 0;
+    while (socket.bytesAvailable() == 0) {
+        if (!socket.waitForReadyRead(remaining()))
+            return false;
+    }
+    return socket.read(&answer, 1) == 1 && answer == ANSWER;
+}
+
+} // namespace
+
+QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled)
+    : QApplication(argc, argv)
+    , m_basePath(basePath())
+    , m_lock(m_basePath + QStringLiteral(".lock"))
+{
+    Q_ASSERT(guiEnabled);
+    Q_UNUSED(guiEnabled)
+
+    m_lock.setStaleLockTime(STALE_LOCK_MS);
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    connect(&m_server, &QLocalServer::newConnection, this,
+            &QtSingleApplication::answerPendingConnections);
+    becomeRunningInstance();
+}
+
+bool QtSingleApplication::becomeRunningInstance()
+{
+    if (!m_lock.isLocked() && !m_lock.tryLock(0))
+        return false;
+
+    // The lock is ours, so a socket that stands there is left over.
+    const QString socketPath = m_basePath + QStringLiteral(".socket");
+    QLocalServer::removeServer(socketPath);
+    if (!m_server.listen(socketPath)) {
+        oxlog::critical(OX_LOG_HERE, QStringLiteral("Listening on %1 failed: %2")
+                                         .arg(socketPath, m_server.errorString()));
+    }
+    return true;
+}
+
+bool QtSingleApplication::isLockOfAnotherUser() const
+{
+    const QFileInfo lock(m_basePath + QStringLiteral(".lock"));
+    return lock.exists() && lock.ownerId() != getuid();
+}
+
+bool QtSingleApplication::sendMessage(const QString &message, int timeout)
+{
+    if (m_lock.isLocked())
+        return false;
+
+    const QDeadlineTimer deadline(timeout);
+    while (!deadline.hasExpired()) {
+        QLocalSocket socket;
+        socket.connectToServer(m_basePath + QStringLiteral(".socket"));
+        if (socket.waitForConnected(static_cast<int>(deadline.remainingTime()))) {
+            if (!isPeerSameUser(socket))
+                return false;
+            if (exchange(socket, message, deadline))
+                return true;
+        }
+        // The other instance is still starting, or it has ended meanwhile.
+        if (isLockOfAnotherUser() || becomeRunningInstance())
+            return false;
+        QThread::msleep(RETRY_MS);
+    }
+    return false;
+}
+
+void QtSingleApplication::answerPendingConnections()
+{
+    while (QLocalSocket *peer = m_server.nextPendingConnection()) {
+        connect(peer, &QLocalSocket::disconnected, peer, &QObject::deleteLater);
+        if (!isPeerSameUser(*peer)) {
+            peer->abort();
+            continue;
+        }
+        peer->setReadBufferSize(MAX_MESSAGE_BYTES);
+        connect(peer, &QLocalSocket::readyRead, peer, [peer] { answerWhenComplete(peer); });
+        answerWhenComplete(peer);
+    }
+}

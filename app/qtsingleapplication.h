@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// An application object of which one per user runs at a time.
+#pragma once
+
+#include <QApplication>
+#include <QLocalServer>
+#include <QLockFile>
+
+class QtSingleApplication : public QApplication
+{
+public:
+    // Looks whether another instance of this program runs for this user, and becomes the running
+    // instance if there is none. The instances of a user meet at a lock file and a socket in the
+    // temporary directory, both named after the program and the user's number. guiEnabled is
+    // always true: a program with widgets has no other kind of application object.
+    QtSingleApplication(int &argc, char **argv, bool guiEnabled = true);
+
+    // Sends message to the running instance and waits for its answer, timeout milliseconds at
+    // most over connecting, writing and the answer. False when this is the running instance, or
+    // when none under the same user answers in time: the caller then starts up as usual.
+    bool sendMessage(const QString &message, int timeout = 5000);
+
+private:
+    bool becomeRunningInstance();
+    bool isLockOfAnotherUser() const;
+    void answerPendingConnections();
+
+    const QString m_basePath;
+    QLockFile m_lock;
+    QLocalServer m_server;
+};

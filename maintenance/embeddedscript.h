@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "libOxUtils/utils/log.h"
+
+#include <QStringList>
+
+enum class ScriptResult {
+    CopyFailed, // told to the log
+    RunFailed,  // did not start, or did not end with status 0
+    Done,
+};
+
+// Copies the script of that name from the root of the resource tree into /tmp, over a copy that an
+// earlier run left, and runs it through sh with the arguments, in the program's own directory and
+// for as long as it takes. The pointer is a wait cursor meanwhile. The copy is left to the caller,
+// and so is the message to the user; a failed copy is logged in the caller's name.
+ScriptResult runEmbeddedScript(const QString &name, const QStringList &arguments,
+                               const oxlog::Site &caller);

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+// What the main window relies on and what needs no window.
+#include "app/instruction.h"
+#include "app/profile.h"
+#include "app/startup.h"
+#include "display/modetext.h"
+#include "display/screenkeeper.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestShell : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void modeTexts_data();
+    void modeTexts();
+    void versionQuery_data();
+    void versionQuery();
+    void localeLines_data();
+    void localeLines();
+    void missingProfileStaysMissing();
+    void instructions();
+    void placesOnScreen_data();
+    void placesOnScreen();
+};
+
+void TestShell::modeTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("numbers"); // over 7x8@9, what the record held before
+
+    const auto row = [](const char *text, ModeTextResult result, const char *numbers) {
+        QTest::newRow(text) << QString::fromLatin1(text) << int(result)
+                            << QString::fromLatin1(numbers);
+    };
+    row("1920x1080M@60", ModeTextResult::Read, "1920x1080@60");
+    row("1024X768", ModeTextResult::Read, "1024x768@60");
+    row("1280 x 1024", ModeTextResult::Read, "1280x1024@60");
+    row("800x600@75m", ModeTextResult::Read, "800x600@75");
+    row("800xabc@60", ModeTextResult::Read, "800x0@60");
+    row("800x600@", ModeTextResult::LastIsBad, "800x600@0");
+    row("800x", ModeTextResult::LastIsBad, "800x0@60");
+    row("60@800x600", ModeTextResult::NoWidth, "0x8@9");
+    row("9@x600", ModeTextResult::NoWidth, "0x8@9");
+    row("abcx600@60", ModeTextResult::NoWidth, "0x8@9");
+    row("-800x600", ModeTextResult::NoWidth, "0x8@9");
+    row("4294967296x600", ModeTextResult::NoWidth, "0x8@9");
+    row("1080@60", ModeTextResult::NoWidth, "7x8@9");
+    row("", ModeTextResult::NoWidth, "7x8@9");
+}
+
+void TestShell::modeTexts()
+{
+    QFETCH(QString, text);
+    quint32 width = 7;
+    quint32 height = 8;
+    quint32 refreshRate = 9;
+    QTEST(int(parseModeText(text, width, height, refreshRate)), "result");
+    QTEST(modeText(width, height, refreshRate), "numbers");
+}
+
+void TestShell::versionQuery_data()
+{
+    QTest::addColumn<QByteArrayList>("arguments");
+    QTest::addColumn<bool>("isQuery");
+    QTest::newRow("short") << QByteArrayList{"moniconf", "-v"} << true;
+    QTest::newRow("long") << QByteArrayList{"moniconf", "--version"} << true;
+    QTest::newRow("none") << QByteArrayList{"moniconf"} << false;
+    QTest::newRow("another") << QByteArrayList{"moniconf", "-V"} << false;
+    QTest::newRow("two") << QByteArrayList{"moniconf", "-v", "-v"} << false;
+}
+
+void TestShell::versionQuery()
+{
+    QFETCH(QByteArrayList, arguments);
+    std::vector<const char *> argv;
+    for (const QByteArray &argument : arguments)
+        argv.push_back(argument.constData());
+    QTEST(isVersionQuery(int(argv.size()), argv.data()), "isQuery");
+}
+
+void TestShell::localeLines_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after"); // for Chinese
+
+    const QByteArray zh = "export LANG=zh_CN.UTF-8";
+    QTest::newRow("middle") << QByteArray("a\nexport LANG=en_US.UTF-8\nb\n")
+                            << "a\n" + zh + "\nb\n";
+    QTest::newRow("first") << QByteArray("export LANG=en_US.UTF-8\nb") << zh + "\nb";
+    QTest::newRow("last, unended") << QByteArray("a\nexport LANG=en_US.UTF-8") << "a\n" + zh;
+    QTest::newRow("of two the first")
+        << QByteArray("export LANG=en_US.UTF-8\nexport LANG=en_US.UTF-8\n")
+        << zh + "\nexport LANG=en_US.UTF-8\n";
+    QTest::newRow("none") << QByteArray("a\n") << "a\n" + zh;
+    QTest::newRow("none, joined to an unended line") << QByteArray("a") << "a" + zh;
+    QTest::newRow("empty") << QByteArray() << zh;
+    QTest::newRow("a longer line keeps its tail")
+        << QByteArray("  export LANG=en_US.UTF-8 # set\nb\n") << zh + "-8 # set\nb\n";
+    QTest::newRow("a shorter comment runs into the next line")
+        << QByteArray("#export LANG=C\n0123456789\n") << zh + "89\n";
+    QTest::newRow("CRLF") << QByteArray("a\r\nexport LANG=en_US.UTF-8\r\nb\r\n")
+                          << "a\r\n" + zh + "\r\nb\r\n";
+    QTest::newRow("bytes that are no text")
+        << QByteArray("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14)
+        << QByteArray("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14) + zh;
+    const QByteArray large = QByteArray(2 * 1024 * 1024, 'x').replace(99, 1, "\n");
+    QTest::newRow("beyond any buffer") << large + "\nexport LANG=en_US.UTF-8\n"
+                                       << large + "\n" + zh + "\n";
+}
+
+void TestShell::localeLines()
+{
+    QFETCH(QByteArray, before);
+    const QTemporaryDir directory;
+    QFile file(directory.filePath(QStringLiteral("profile")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(before);
+    file.close();
+
+    QVERIFY(writeLocaleLine(file.fileName(), localeLine(QStringLiteral("Chinese"))));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QTEST(file.readAll(), "after");
+}
+
+void TestShell::missingProfileStaysMissing()
+{
+    const QTemporaryDir directory;
+    const QString missing = directory.filePath(QStringLiteral("profile"));
+    QVERIFY(!writeLocaleLine(missing, "x"));
+    QVERIFY(!QFile::exists(missing));
+    QVERIFY(!writeLocaleLine(directory.path(), "x"));
+    QCOMPARE(localeLine(QStringLiteral("chinese")), QByteArray("export LANG=en_US.UTF-8"));
+}
+
+void TestShell::instructions()
+{
+    QCOMPARE(noDisplayForInstruction(QStringLiteral("LiftHarborGate")), QStringLiteral("false"));
+    QCOMPARE(noDisplayForInstruction(QStringLiteral("LowerHarborGate")), QStringLiteral("true"));
+    for (const char *other : {"liftharborgate", " LiftHarborGate", "LowerHarborGate ", "x"})
+        QVERIFY2(noDisplayForInstruction(QString::fromLatin1(other)).isNull(), other);
+}
+
+void TestShell::placesOnScreen_data()
+{
+    QTest::addColumn<QRect>("window");
+    QTest::addColumn<QPoint>("place");
+    QTest::newRow("inside stays") << QRect(100, 100, 286, 323) << QPoint(100, 100);
+    QTest::newRow("flush stays") << QRect(514, 277, 286, 323) << QPoint(514, 277);
+    QTest::newRow("beyond the corner") << QRect(900, 800, 286, 323) << QPoint(514, 277);
+    QTest::newRow("left above") << QRect(-20, -5, 286, 323) << QPoint(0, 0);
+    QTest::newRow("larger than the screen") << QRect(30, 30, 1000, 700) << QPoint(0, 0);
+}
+
+void TestShell::placesOnScreen()
+{
+    QFETCH(QRect, window);
+    QTEST(placeOnScreen(window, QRect(0, 0, 800, 600)), "place");
+}
+
+QTEST_GUILESS_MAIN(TestShell)
+#include "tst_shell.moc"
