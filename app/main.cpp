@@ -56,5 +56,6 @@ int main(int argc, char *argv[])
 
     DialogMain dialog;
     dialog.show();
+    setWindowIconLater();
     return QApplication::exec();
 }

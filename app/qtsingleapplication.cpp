@@ -79,7 +79,6 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled
     Q_UNUSED(guiEnabled)
 
     m_lock.setStaleLockTime(STALE_LOCK_MS);
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this,
             &QtSingleApplication::answerPendingConnections);
     becomeRunningInstance();

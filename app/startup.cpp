@@ -4,15 +4,19 @@
 #include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
+#include <QIcon>
 #include <QOpenGLContext>
+#include <QTimer>
 
 #include <cstring>
 
 namespace {
 
+constexpr int ICON_DELAY_MS = 300;
+
 constexpr char GL_INTEGRATION_VARIABLE[] = "QT_XCB_GL_INTEGRATION";
 
-}
+} // namespace
 
 bool isVersionQuery(int argc, const char *const argv[])
 {
@@ -30,6 +34,13 @@ void installApplicationFont(const QString &fontFile, int pointSize)
     QFont font(families.first());
     font.setPointSize(pointSize);
     QApplication::setFont(font);
+}
+
+void setWindowIconLater()
+{
+    QTimer::singleShot(ICON_DELAY_MS, qApp, [] {
+        QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/moniconf.png")));
+    });
 }
 
 GlIntegrationSetting::GlIntegrationSetting()

@@ -1,0 +1,130 @@
+# SPDX-License-Identifier: MIT
+"""What the box tests share: the tool under way, its windows, and the traces that it leaves.
+
+A test runs in the simulated box: simbox/simbox exec python3 tests/box/NAME.py
+"""
+
+import collections
+import re
+import subprocess
+import time
+from pathlib import Path
+
+PATIENCE = 20       # seconds, for what usually takes a fraction of one
+PROGRAM = '/opt/moniconf/moniconf'
+RUN = Path('/run/simbox')
+Message = collections.namedtuple('Message', 'type file line function category text')
+
+
+def output(*command):
+    """The standard output of a command that must succeed."""
+    return subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True).stdout.strip()
+
+
+def wait_for(condition, what, patience=PATIENCE):
+    """Waits until the condition gives something true, and gives that."""
+    deadline = time.monotonic() + patience
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise AssertionError(f'{what}: not within {patience} s')
+        time.sleep(0.03)
+
+
+class Tool:
+    """The running tool, and its log."""
+
+    def __init__(self, *arguments, program=PROGRAM, log=RUN / 'tool.log'):
+        self.log_file = Path(log)
+        pattern = '|'.join(f'%{{{name}}}' for name in Message._fields[:-1]) + '|%{message}'
+        with open(self.log_file, 'wb') as stream:
+            self.process = subprocess.Popen(
+                ['env', f'QT_MESSAGE_PATTERN={pattern}', program, *arguments], stderr=stream)
+
+    def messages(self, text='', **fields):
+        """The messages that hold the text and have the given fields, such as type='critical'."""
+        lines = self.log_file.read_text(encoding='utf-8', errors='replace').splitlines()
+        found = [Message(*line.split('|', 5)) for line in lines if line.count('|') >= 5]
+        return [message for message in found if text in message.text and
+                all(getattr(message, name) == value for name, value in fields.items())]
+
+    def wait_for_end(self):
+        """The exit status, once it has ended by itself."""
+        return self.process.wait(timeout=PATIENCE)
+
+    def stop(self):
+        self.process.kill()
+        self.process.wait()
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.stop()
+
+
+def find_windows(title):
+    while True:
+        found = subprocess.run(['xdotool', 'search', '--onlyvisible', '--name', f'^{title}$'],
+                               capture_output=True, text=True, check=False)
+        if 'X Error' not in found.stderr:       # a window that went while it was looked at
+            return found.stdout.split()
+
+
+def has_keyboard(window):
+    focus = subprocess.run(['xdotool', 'getwindowfocus'], stdout=subprocess.PIPE,
+                           stderr=subprocess.DEVNULL, text=True, check=False)
+    return focus.stdout.strip() == window
+
+
+def wait_for_window(title, patience=PATIENCE):
+    """The window of that title, once it is shown and has the keyboard."""
+    return wait_for(lambda: next(filter(has_keyboard, find_windows(title)), None),
+                    f'window "{title}" with the keyboard', patience)
+
+
+def wait_until_gone(title, patience=PATIENCE):
+    wait_for(lambda: not find_windows(title), f'end of window "{title}"', patience)
+
+
+def keys(*names):
+    """Presses keys, such as 'Down' or 'ctrl+e', in the window that has the keyboard."""
+    output('xdotool', 'key', '--delay', '30', *names)
+
+
+def type_text(text):
+    output('xdotool', 'type', '--delay', '30', text)
+
+
+def click(window, x, y, button=1, times=1):
+    """Clicks at a place counted from the window's top left corner."""
+    output('xdotool', 'mousemove', '--window', window, str(x), str(y),
+           'click', '--repeat', str(times), '--delay', '60', str(button))
+
+
+def screen_size():
+    """The mode of the screen, such as '1280x1024'."""
+    return 'x'.join(re.search(r'current (\d+) x (\d+)', output('xrandr')).groups())
+
+
+def stored_mode():
+    """The mode that the boot environment names."""
+    return output('fw_printenv', '-n', 'display')
+
+
+def plug(bus, what):
+    """Exchanges the monitor on 'vga' or 'hdmi'."""
+    (RUN / bus).write_text(what, encoding='utf-8')
+
+
+def calls(first_words=''):
+    """What stand-ins and devices have recorded, a line a call."""
+    lines = (RUN / 'calls').read_text(encoding='utf-8').splitlines()
+    return [line for line in lines if line.startswith(first_words)]
+
+
+def picture(file):
+    """Saves the screen, to look at when a test fails."""
+    output('import', '-window', 'root', file)

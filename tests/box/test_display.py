@@ -1,0 +1,123 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Modes, through the real window: chosen, kept, taken back."""
+
+import subprocess
+import unittest
+from pathlib import Path
+
+import driver
+from driver import click, keys, screen_size, stored_mode, wait_for, wait_for_window, wait_until_gone
+
+BOOT_CONFIG = Path('/etc/fw_env.config')
+APPLY = (236, 203)      # pixels from the window's corner, in the box's font
+FIRST_ROW = (60, 55)
+ROW_HEIGHT = 18
+
+
+def click_row(window, row):
+    click(window, FIRST_ROW[0], FIRST_ROW[1] + row * ROW_HEIGHT)
+
+
+class Display(unittest.TestCase):
+    def setUp(self):
+        subprocess.run(['xrandr', '-s', '1920x1080', '-r', '60'], check=True)
+        subprocess.run(['fw_setenv', 'display', '1920x1080M@60'], check=True)
+        driver.plug('hdmi', '1920x1080')
+        self.tool = driver.Tool()
+        self.addCleanup(self.tool.stop)
+
+    def apply(self, row):
+        window = wait_for_window('Display Settings')
+        click_row(window, row)
+        click(window, *APPLY)
+        return wait_for_window('Information')
+
+    def assert_on_screen(self, window):
+        place = dict(line.split('=') for line in driver.output(
+            'xdotool', 'getwindowgeometry', '--shell', window).splitlines())
+        x, y, width, height = (int(place[name]) for name in ('X', 'Y', 'WIDTH', 'HEIGHT'))
+        right, bottom = map(int, screen_size().split('x'))
+        self.assertTrue(0 <= x <= right - width and 0 <= y <= bottom - height, (place, right, bottom))
+
+    def test_keep(self):
+        question = self.apply(0)
+        self.assertEqual(screen_size(), '800x600')
+        main = driver.find_windows('Display Settings')[0]
+        wait_for(lambda: self.assert_on_screen(question) or True, 'question on the screen')
+        self.assert_on_screen(main)
+        keys('Tab', 'space')
+        wait_until_gone('Information')
+        self.assertEqual(wait_for(lambda: stored_mode() != '1920x1080M@60' and stored_mode(),
+                                  'stored mode'), '800x600@60')
+        # It is the current mode now: OK ends without a question, and writes the language.
+        wait_for_window('Display Settings')
+        click_row(main, 0)
+        keys('Tab', 'Tab', 'Down', 'Tab', 'space')
+        self.assertEqual(self.tool.wait_for_end(), 0)
+        self.assertEqual(screen_size(), '800x600')
+        self.assertIn('export LANG=en_US.UTF-8\n', Path('/etc/profile').read_text())
+
+    def test_restore_by_enter(self):
+        self.apply(5)
+        self.assertEqual(screen_size(), '1440x900')
+        keys('Return')
+        wait_for(lambda: screen_size() == '1920x1080', 'the mode before')
+        self.assertEqual(stored_mode(), '1920x1080M@60')
+
+    def test_no_answer(self):
+        self.apply(2)
+        self.assertEqual(screen_size(), '1280x720')
+        wait_for(lambda: screen_size() == '1920x1080', 'the mode before', 60)
+        wait_until_gone('Information')
+        self.assertEqual(stored_mode(), '1920x1080M@60')
+
+    def test_store_fails(self):
+        self.apply(1)
+        config = BOOT_CONFIG.read_text()
+        self.addCleanup(BOOT_CONFIG.write_text, config)
+        BOOT_CONFIG.unlink()
+        keys('Tab', 'space')
+        wait_for_window('Error')
+        BOOT_CONFIG.write_text(config)
+        keys('Return')
+        wait_for_window('Display Settings')
+        # No roll-back, and the mode can be applied again.
+        self.assertEqual(screen_size(), '1024x768')
+        self.assertEqual(stored_mode(), '1920x1080M@60')
+
+    def test_other_monitor_and_none(self):
+        window = wait_for_window('Display Settings')
+        keys('Tab')
+        driver.plug('hdmi', 'none')
+        keys('space', 'space')
+        wait_for_window('Error')
+        keys('Return')
+        wait_for_window('Display Settings')
+        driver.plug('vga', '1280x1024')
+        self.addCleanup(driver.plug, 'vga', 'none')
+        keys('space', 'space')
+        wait_for(lambda: driver.calls('i2c vga answered'), 'a look at the VGA monitor')
+        click_row(window, 3)
+        click(window, *APPLY)
+        wait_for_window('Information')
+        self.assertEqual(screen_size(), '1280x1024')
+        led = driver.calls('led')
+        self.assertEqual(led, ['led 1', 'led 0'] * (len(led) // 2))
+
+    def test_child_processes_are_spared_the_toolkit_setting(self):
+        window = wait_for_window('Display Settings')
+        probe = Path('/usr/local/bin/xrandr')
+        self.addCleanup(probe.unlink)
+        probe.write_text('#!/bin/sh\nenv >/tmp/environment; exec /usr/bin/xrandr "$@"\n')
+        probe.chmod(0o755)
+        click_row(window, 0)
+        click(window, *APPLY)
+        wait_for_window('Information')
+        self.assertNotIn('QT_XCB', Path('/tmp/environment').read_text())
+        maps = Path(f'/proc/{self.tool.process.pid}/maps').read_text()
+        self.assertNotIn('glx-integration', maps)
+
+
+if __name__ == '__main__':
+    unittest.main()

@@ -1,0 +1,88 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""One instance at a time, and no lock that keeps the next from starting."""
+
+import os
+import signal
+import socket
+import time
+import unittest
+from pathlib import Path
+
+import driver
+from driver import wait_for, wait_for_window
+
+TITLE = 'Display Settings'
+
+
+class SingleInstance(unittest.TestCase):
+    def setUp(self):
+        self.started = []
+        self.addCleanup(lambda: [tool.stop() for tool in self.started])
+
+    def start(self, *arguments):
+        self.started.append(driver.Tool(*arguments, log=f'/tmp/log{len(self.started)}'))
+        return self.started[-1]
+
+    def test_second_start_ends(self):
+        first = self.start()
+        wait_for_window(TITLE)
+        begin = time.monotonic()
+        self.assertEqual(self.start().wait_for_end(), 0)
+        self.assertLess(time.monotonic() - begin, 5)
+        self.assertEqual(self.start('--other').wait_for_end(), 0)
+        self.assertEqual(len(driver.find_windows(TITLE)), 1)
+        self.assertRegex(driver.output(driver.PROGRAM, '-v'), r'^moniconf 1\.2\.\d{3,4}\.\d{5,6}$')
+        self.assertIsNone(first.process.poll())
+
+    def test_twenty_starts(self):
+        for _ in range(20):
+            self.start()
+        wait_for_window(TITLE)
+        wait_for(lambda: sum(tool.process.poll() == 0 for tool in self.started) == 19, '19 ends')
+        self.assertEqual(len(driver.find_windows(TITLE)), 1)
+
+    def test_leftovers(self):
+        def killed(tool):
+            tool.stop()
+
+        def killed_and_cleaned(tool):
+            tool.stop()
+            for file in Path('/tmp').glob('moniconf*'):
+                file.unlink()
+
+        def power_cut(tool):
+            tool.stop()
+            lock = Path('/tmp/moniconf-0.lock')
+            lock.write_bytes(b'')
+            os.utime(lock, (60, 60))    # no clock battery either
+
+        for leave in (killed, killed_and_cleaned, power_cut):
+            with self.subTest(leave.__name__):
+                leave(self.start())
+                tool = self.start()
+                wait_for_window(TITLE)
+                tool.stop()
+
+    def test_stopped_instance(self):
+        first = self.start()
+        wait_for_window(TITLE)
+        first.process.send_signal(signal.SIGSTOP)
+        self.start()
+        wait_for(lambda: len(driver.find_windows(TITLE)) == 2, 'a window of its own')
+
+    def test_silent_and_talkative_peers(self):
+        self.start()
+        wait_for_window(TITLE)
+        with socket.socket(socket.AF_UNIX) as silent, socket.socket(socket.AF_UNIX) as talkative:
+            silent.connect('/tmp/moniconf-0.socket')
+            talkative.connect('/tmp/moniconf-0.socket')
+            with self.assertRaises(OSError):
+                talkative.settimeout(driver.PATIENCE)
+                for _ in range(64):
+                    talkative.sendall(b'x' * 65536)
+            self.assertEqual(self.start().wait_for_end(), 0)
+
+
+if __name__ == '__main__':
+    unittest.main()
