@@ -3,6 +3,7 @@
 #define OX_LOG_FIXED_POSITIONS 106, 111, 124, 135, 555, 567, 571, 579, 586, 594
 #include "app/dialogmain.h"
 
+#include "app/errortext.h"
 #include "app/instruction.h"
 #include "app/profile.h"
 #include "app/testapplication.h"
@@ -26,6 +27,7 @@
 #include "maintenance/dialogfantempparam.h"
 #include "maintenance/dialogpreference.h"
 #include "maintenance/embeddedscript.h"
+#include "maintenance/fanthresholds.h"
 #include "maintenance/identity/productbarcode.h"
 #include "ui_dialogmain.h"
 
@@ -38,10 +40,8 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include <algorithm>
 #include <cstdlib>
 #include <iterator>
-#include <limits>
 
 namespace {
 
@@ -58,16 +58,9 @@ bool runCommand(const QString &command, QString &output, QString &error)
     return Utils::ExecShellCommand(command, output, error, COMMAND_START_MS, COMMAND_FINISH_MS);
 }
 
-QString currentDateTimeText()
+QString dateTimeText(const QDateTime &dateTime)
 {
-    return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-}
-
-// A text that is no number counts as 0; the dialog brings both into its ranges.
-int thresholdFrom(const QString &text)
-{
-    const uint highest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::min(text.toUInt(), highest));
+    return dateTime.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
 bool isSameSize(const DialogMain::T_Resolution &a, const DialogMain::T_Resolution &b)
@@ -75,16 +68,42 @@ bool isSameSize(const DialogMain::T_Resolution &a, const DialogMain::T_Resolutio
     return a.width == b.width && a.height == b.height;
 }
 
+QStringList itemsOf(const std::vector<T_ResolutionEntry> &entries)
+{
+    QStringList items;
+    for (const T_ResolutionEntry &entry : entries)
+        items << modeItem(entry.width, entry.height);
+    return items;
+}
+
+// The box may be switched off right after a change of mode.
+void syncFileSystems()
+{
+    const WaitCursor waiting;
+    const int ignored = std::system("sync");
+    Q_UNUSED(ignored)
+}
+
+bool setScreenGamma(float gamma)
+{
+    FbDevice *const framebuffer = FbDevice::Instance();
+    // Not checked: without an open device the next step fails.
+    framebuffer->OpenDevice(FbDevice::DEV_NAME);
+    const bool isSet = framebuffer->SetGamma(gamma);
+    framebuffer->CloseDevice();
+    return isSet;
+}
+
 } // namespace
 
 DialogMain::DialogMain(QWidget *parent)
     : QDialog(parent)
     , ui(new Ui_DialogMain)
-    , m_productFlags(0)
 {
     ui->setupUi(this);
+    // The form's size is for 96 dots an inch; on a denser screen the list needs more.
+    resize(size().expandedTo(sizeHint()));
     secTimer_timeout();
-    m_gamma = 1.0F;
     m_timer = new QTimer(this);
     createMenu();
     initConnections();
@@ -148,7 +167,14 @@ bool DialogMain::hasOtpApplication() const
 
 void DialogMain::showError(const QString &text)
 {
-    QMessageBox::critical(this, tr("Error"), text);
+    QMessageBox box(this);
+    box.setIcon(QMessageBox::Critical);
+    box.setWindowTitle(tr("Error"));
+    // The text can be another program's.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(shortenedMessage(text));
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
 }
 
 void DialogMain::keyPressEvent(QKeyEvent *event)
@@ -181,12 +207,8 @@ void DialogMain::adjustGamma(const oxlog::Site &valueSite, const oxlog::Site &fa
     // The value stays on offer for the next time even if the framebuffer does not take it.
     m_gamma = dialog.GetGamma();
     oxlog::debug(valueSite, QString::number(static_cast<double>(m_gamma)));
-
-    FbDevice *const framebuffer = FbDevice::Instance();
-    framebuffer->OpenDevice(FbDevice::DEV_NAME);
-    if (!framebuffer->SetGamma(m_gamma))
+    if (!setScreenGamma(m_gamma))
         oxlog::critical(failureSite, QStringLiteral("Setting gamma failed."));
-    framebuffer->CloseDevice();
 }
 
 void DialogMain::promptForInstruction(const oxlog::Site &loadSite, const oxlog::Site &unknownSite)
@@ -197,14 +219,20 @@ void DialogMain::promptForInstruction(const oxlog::Site &loadSite, const oxlog::
     if (typed.isEmpty())
         return;
 
+    // Without the entry the text is not looked at, and nothing is shown.
     ConfFile entry(QStringLiteral("/usr/share/applications/matchbox-terminal.desktop"));
-    if (!entry.LoadConf()) {
+    if (entry.LoadConf())
+        followInstruction(typed, entry, unknownSite);
+    else
         oxlog::critical(loadSite, QStringLiteral("Loading configure file failed."));
-        return;
-    }
+}
 
+void DialogMain::followInstruction(const QString &typed, ConfFile &entry,
+                                   const oxlog::Site &unknownSite)
+{
     const QString noDisplay = noDisplayForInstruction(typed);
     if (noDisplay.isNull()) {
+        //: The misspelling is part of the interface: the English catalogue keeps it.
         showError(tr("Unkown instruction!"));
         oxlog::debug(unknownSite, QStringLiteral("Unkown instruction: '%1'!").arg(typed));
         return;
@@ -215,9 +243,12 @@ void DialogMain::promptForInstruction(const oxlog::Site &loadSite, const oxlog::
 
 void DialogMain::actionUpgradeApp_triggered()
 {
+    //: The name of an application; it stays as it is.
     QStringList applications{tr("vexastd")};
-    if (hasOtpApplication())
+    if (hasOtpApplication()) {
+        //: The name of an application; it stays as it is.
         applications << tr("vxotp");
+    }
     const QString chosen = askForApplication(tr("Upgrade Application"), applications);
     if (!chosen.isEmpty())
         startUpgraderApp(chosen == tr("vexastd"));
@@ -235,19 +266,16 @@ void DialogMain::actionPreference_triggered()
 
 void DialogMain::actionFactoryReset_triggered()
 {
-    if (QMessageBox::question(this, tr("Query"), tr("Are sure to factory reset?"),
-                              QMessageBox::Yes | QMessageBox::No,
+    //: The missing word is part of the interface: the English catalogue keeps the text as it is.
+    const QString question = tr("Are sure to factory reset?");
+    if (QMessageBox::question(this, tr("Query"), question, QMessageBox::Yes | QMessageBox::No,
                               QMessageBox::No) != QMessageBox::Yes)
         return;
 
-    // Both are on offer whatever the product: a reset of an application that is not there does no
-    // harm, and settings of one that was removed can be cleared away.
+    // Both are on offer whatever the product's flags, unlike for an upgrade; that is intended.
     const QString chosen = askForApplication(tr("Factory Reset"), {tr("vexastd"), tr("vxotp")});
-    if (chosen.isEmpty())
-        return;
-    const bool standard = chosen == tr("vexastd");
-    for (const QString &file : (standard ? standardApplication() : otpApplication()).settingsFiles)
-        QFile::remove(file);
+    if (!chosen.isEmpty())
+        removeSettings(chosen == tr("vexastd") ? standardApplication() : otpApplication());
 }
 
 void DialogMain::actionFanSetting_triggered()
@@ -256,18 +284,16 @@ void DialogMain::actionFanSetting_triggered()
     if (!conf.LoadConf())
         return;
 
-    const QString lowerKey = QStringLiteral("temp_threshold_lower");
-    const QString upperKey = QStringLiteral("temp_threshold_upper");
-    int lower = thresholdFrom(conf.GetValue(lowerKey));
-    int upper = thresholdFrom(conf.GetValue(upperKey));
+    int lower = 0;
+    int upper = 0;
+    readFanThresholds(conf, lower, upper);
     DialogFanTempParam dialog(this);
     dialog.SetThresholds(lower, upper);
     if (dialog.exec() != QDialog::Accepted)
         return;
 
     dialog.GetThresholds(lower, upper);
-    conf.SetValue(lowerKey, QString::number(lower));
-    conf.SetValue(upperKey, QString::number(upper));
+    setFanThresholds(conf, lower, upper);
     conf.SaveConf();
     // Shown after every acceptance: the log has the reason when the save failed.
     QMessageBox::information(this, tr("Information"),
@@ -276,25 +302,22 @@ void DialogMain::actionFanSetting_triggered()
 
 void DialogMain::secTimer_timeout()
 {
-    ui->m_lblDateTime->setText(currentDateTimeText());
+    ui->m_lblDateTime->setText(dateTimeText(QDateTime::currentDateTime()));
 }
 
 void DialogMain::btnApply_clicked(bool /*checked*/)
 {
     T_Resolution wanted;
-    if (!parseDispInfo2Resolution(wanted, selectedItem().simplified())) {
-        showError(tr("Cannot parse resolution string."));
-        return;
-    }
-    if (isSameSize(wanted, m_curResolution))
+    if (!parseItem(wanted, selectedItem()) || isSameSize(wanted, m_curResolution))
         return;
 
     // The new mode comes first and the question after it, so that the user judges what can be seen.
-    switchTo(wanted);
-    if (DialogConfirm(this).exec() == QDialog::Accepted)
-        keep(wanted);
+    switchScreenTo(wanted);
+    DialogConfirm dialog(this);
+    if (dialog.exec() == QDialog::Accepted)
+        storeMode(wanted);
     else
-        switchTo(m_curResolution);
+        switchScreenTo(m_curResolution);
 }
 
 void DialogMain::btnOK_clicked(bool /*checked*/)
@@ -314,15 +337,13 @@ void DialogMain::listResolution_currentTextChanged(const QString &currentText)
     if (currentText.isEmpty())
         return;
     T_Resolution selected;
-    if (!parseDispInfo2Resolution(selected, currentText.simplified())) {
-        showError(tr("Cannot parse resolution string."));
-        return;
-    }
-    ui->m_btnApply->setEnabled(!isSameSize(selected, m_curResolution));
+    if (parseItem(selected, currentText))
+        ui->m_btnApply->setEnabled(!isSameSize(selected, m_curResolution));
 }
 
 void DialogMain::lblDateTime_mouseDoubleClicked()
 {
+    // The clock is set to what the dialog shows: the seconds that pass while it is open are lost.
     QDateTime dateTime = QDateTime::currentDateTime();
     DialogClock dialog(this);
     dialog.SetDateTime(dateTime);
@@ -330,13 +351,11 @@ void DialogMain::lblDateTime_mouseDoubleClicked()
         return;
     dialog.GetDateTime(dateTime);
 
-    const QString value = dateTime.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     const ScriptResult result =
-        runEmbeddedScript(QStringLiteral("calclock.sh"), {value}, OX_LOG_HERE);
-    // Without a copy there is nothing to clear away, and that failure is told to the log alone.
-    if (result == ScriptResult::CopyFailed)
-        return;
-    QFile::remove(QStringLiteral("/tmp/calclock.sh"));
+        runEmbeddedScript(QStringLiteral("calclock.sh"), {dateTimeText(dateTime)}, OX_LOG_HERE);
+    // A failed copy is told to the log alone, on purpose, and leaves nothing to clear away.
+    if (result != ScriptResult::CopyFailed)
+        QFile::remove(QStringLiteral("/tmp/calclock.sh"));
     if (result == ScriptResult::RunFailed)
         showError(tr("Setting date time failed."));
 }
@@ -349,14 +368,23 @@ void DialogMain::chkbListAll_clicked(bool checked)
         listMonitorResolutions();
 }
 
+bool DialogMain::parseItem(T_Resolution &resolution, const QString &item)
+{
+    const bool isParsed = parseDispInfo2Resolution(resolution, item.simplified());
+    if (!isParsed)
+        showError(tr("Cannot parse resolution string."));
+    return isParsed;
+}
+
 bool DialogMain::parseDispInfo2Resolution(T_Resolution &resolution, const QString &text)
 {
     resolution.text = text;
     const ModeTextResult result =
         parseModeText(text, resolution.width, resolution.height, resolution.refreshRate);
     if (result != ModeTextResult::NoWidth) {
-        oxlog::debug(OX_LOG_HERE,
-                     modeText(resolution.width, resolution.height, resolution.refreshRate));
+        oxlog::debug(OX_LOG_HERE, QString::asprintf("%dx%d@%d", static_cast<int>(resolution.width),
+                                                    static_cast<int>(resolution.height),
+                                                    static_cast<int>(resolution.refreshRate)));
     }
     return result == ModeTextResult::Read;
 }
@@ -396,16 +424,7 @@ int DialogMain::readEdidThroughVgaSwitch(unsigned char *edid)
 
 void DialogMain::listAllResolutions()
 {
-    showResolutions({std::begin(ALL_RESOLUTIONS), std::end(ALL_RESOLUTIONS)});
-}
-
-void DialogMain::showResolutions(const std::vector<T_ResolutionEntry> &entries)
-{
-    QStringList items;
-    for (const T_ResolutionEntry &entry : entries)
-        items << modeItem(entry.width, entry.height);
-    ui->m_listResolution->clear();
-    ui->m_listResolution->insertItems(ui->m_listResolution->count(), items);
+    showItems(itemsOf({std::begin(ALL_RESOLUTIONS), std::end(ALL_RESOLUTIONS)}));
 }
 
 void DialogMain::listMonitorResolutions()
@@ -417,22 +436,26 @@ void DialogMain::listMonitorResolutions()
     } else if (getNativeTiming(edid, native) != 0) {
         showError(tr("Parsing edid information failed."));
     } else {
-        showResolutions(monitorResolutions(native.width, native.height));
-        selectCurrentResolution();
+        const QStringList items = itemsOf(monitorResolutions(native.width, native.height));
+        showItems(items);
+        selectCurrentResolution(items);
     }
 }
 
-void DialogMain::selectCurrentResolution()
+void DialogMain::showItems(const QStringList &items)
+{
+    ui->m_listResolution->clear();
+    ui->m_listResolution->insertItems(ui->m_listResolution->count(), items);
+}
+
+void DialogMain::selectCurrentResolution(const QStringList &items)
 {
     if (get_cur_display_info(m_curResolution) != 0) {
         showError(tr("Getting current display information failed."));
         return;
     }
     const QString current = modeItem(m_curResolution.width, m_curResolution.height);
-    int row = ui->m_listResolution->count() - 1;
-    while (row >= 0 && ui->m_listResolution->item(row)->text() != current)
-        --row;
-    ui->m_listResolution->setCurrentRow(row);
+    ui->m_listResolution->setCurrentRow(items.indexOf(current));
 }
 
 QString DialogMain::selectedItem() const
@@ -441,32 +464,25 @@ QString DialogMain::selectedItem() const
     return item ? item->text() : QString();
 }
 
-void DialogMain::switchTo(const T_Resolution &resolution)
+void DialogMain::switchScreenTo(const T_Resolution &resolution)
 {
     // Not checked: whether the screen can be seen is for the user to say.
     QString output;
     QString error;
-    runCommand(QStringLiteral("xrandr -s %1x%2 -r %3")
-                   .arg(QString::number(resolution.width), QString::number(resolution.height),
-                        QString::number(resolution.refreshRate)),
+    runCommand(switchScreenCommand(resolution.width, resolution.height, resolution.refreshRate),
                output, error);
 }
 
-void DialogMain::keep(const T_Resolution &resolution)
+void DialogMain::storeMode(const T_Resolution &resolution)
 {
     QString output;
     QString error;
-    if (!runCommand(QStringLiteral("fw_setenv display %1x%2@%3")
-                        .arg(QString::number(resolution.width), QString::number(resolution.height),
-                             QString::number(resolution.refreshRate)),
+    if (!runCommand(storeModeCommand(resolution.width, resolution.height, resolution.refreshRate),
                     output, error)) {
         showError(error);
         return;
     }
-    // The box may be switched off right now. Whether the flash has the mode by then is nobody's to
-    // report.
-    const int ignored = std::system("sync");
-    Q_UNUSED(ignored)
+    syncFileSystems();
     m_curResolution = resolution;
     listResolution_currentTextChanged(selectedItem());
 }

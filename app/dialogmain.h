@@ -5,14 +5,13 @@
 
 #include <QDialog>
 #include <QString>
+#include <QStringList>
 
-#include <vector>
-
+class ConfFile;
 class QAction;
 class QMenu;
 class QTimer;
 class Ui_DialogMain;
-struct T_ResolutionEntry;
 
 // The program's one top-level window: the list of display modes, the clock, the language, and the
 // way to every maintenance function through its menu and its keys.
@@ -57,23 +56,32 @@ private:
     void initConnections();
     void readProductFlags();
     bool hasOtpApplication() const;
+    // A modal box titled "Error" with one OK button.
     void showError(const QString &text);
 
     // Reads a mode text into resolution, its text included; see parseModeText.
     bool parseDispInfo2Resolution(T_Resolution &resolution, const QString &text);
+    // Reads an item of the list into resolution. False when it is no mode, which the user is told.
+    bool parseItem(T_Resolution &resolution, const QString &item);
     // Reads the mode that the boot loader's environment holds. 0, or -1 when there is none.
     int get_cur_display_info(T_Resolution &resolution);
     // Reads the attached monitor's EDID block, 128 bytes, into edid. 0, or -1 when no bus gives a
     // usable one; edid then holds what the last attempt left there.
     int readEdid(unsigned char *edid);
+    // The same with the VGA lines led to the bus meanwhile.
     int readEdidThroughVgaSwitch(unsigned char *edid);
+
+    // Fills the list with every standard mode; nothing is selected.
     void listAllResolutions();
+    // Fills the list with the modes that fit the monitor and selects the current one.
     void listMonitorResolutions();
-    void showResolutions(const std::vector<T_ResolutionEntry> &entries);
-    void selectCurrentResolution();
+    void showItems(const QStringList &items);
+    void selectCurrentResolution(const QStringList &items);
+    // The current item's text, empty when there is none.
     QString selectedItem() const;
-    void switchTo(const T_Resolution &resolution);
-    void keep(const T_Resolution &resolution);
+    void switchScreenTo(const T_Resolution &resolution);
+    // Stores a mode for the next start and takes it as the current one.
+    void storeMode(const T_Resolution &resolution);
 
     void startUpgraderSelf();
     // true: the standard test application; false: the OTP one.
@@ -82,19 +90,23 @@ private:
     // The chosen item's text, empty when the user cancels.
     QString askForApplication(const QString &title, const QStringList &applications);
 
+    // The sites are those of the key handler, in whose name the messages stand in the log.
     void adjustGamma(const oxlog::Site &valueSite, const oxlog::Site &failureSite);
     void promptForInstruction(const oxlog::Site &loadSite, const oxlog::Site &unknownSite);
+    void followInstruction(const QString &typed, ConfFile &entry, const oxlog::Site &unknownSite);
+
+    // Writes the chosen language's locale into the system-wide profile.
     void selectLanguage();
 
     Ui_DialogMain *ui;
     T_Resolution m_curResolution;
-    QTimer *m_timer;
-    float m_gamma;
-    QMenu *m_menu;
-    QAction *m_actUpgradeApp;
-    QAction *m_actUpgradeFs;
-    QAction *m_actPreference;
-    QAction *m_actFactoryReset;
-    QAction *m_actFanSetting;
-    quint32 m_productFlags;
+    QTimer *m_timer = nullptr;
+    float m_gamma = 1.0F;
+    QMenu *m_menu = nullptr;
+    QAction *m_actUpgradeApp = nullptr;
+    QAction *m_actUpgradeFs = nullptr;
+    QAction *m_actPreference = nullptr;
+    QAction *m_actFactoryReset = nullptr;
+    QAction *m_actFanSetting = nullptr;
+    quint32 m_productFlags = 0;
 };

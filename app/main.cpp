@@ -54,8 +54,8 @@ int main(int argc, char *argv[])
     ModalFocusGuard focusGuard;
     app.installNativeEventFilter(&focusGuard);
 
+    setWindowIconLater();
     DialogMain dialog;
     dialog.show();
-    setWindowIconLater();
     return QApplication::exec();
 }

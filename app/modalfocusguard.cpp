@@ -17,11 +17,13 @@ constexpr int SYNTHETIC_EVENT_BIT = 0x80;
 bool isBlockedByModal(xcb_window_t id)
 {
     const QWindow *const modal = QGuiApplication::modalWindow();
-    if (!modal || modal->winId() == id)
+    if (!modal)
         return false;
+    // The dialog's own pop-ups are not blocked.
     const QWindowList windows = QGuiApplication::topLevelWindows();
-    return std::any_of(windows.begin(), windows.end(), [id](const QWindow *window) {
-        return window->handle() && window->winId() == id;
+    return std::any_of(windows.begin(), windows.end(), [=](const QWindow *window) {
+        return window->handle() && window->winId() == id && window != modal &&
+               !modal->isAncestorOf(window);
     });
 }
 

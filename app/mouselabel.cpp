@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/mouselabel.h"
 
-#include <QEvent>
+#include <QKeyEvent>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 
 MouseLabel::MouseLabel(QWidget *parent)
     : QLabel(parent)
@@ -26,4 +28,22 @@ bool MouseLabel::event(QEvent *event)
 void MouseLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/)
 {
     emit mouseDoubleClicked();
+}
+
+void MouseLabel::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Space)
+        emit mouseDoubleClicked();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void MouseLabel::paintEvent(QPaintEvent *event)
+{
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
 }

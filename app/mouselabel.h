@@ -3,7 +3,8 @@
 
 #include <QLabel>
 
-// A label that reports double clicks and turns blue while the pointer is over it.
+// A label that reports double clicks and turns blue while the pointer is over it. With the focus,
+// the space bar does the same as a double click.
 class MouseLabel : public QLabel
 {
     Q_OBJECT
@@ -17,4 +18,6 @@ signals:
 protected:
     bool event(QEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 };

@@ -2,6 +2,7 @@
 #include "app/profile.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <unistd.h>
 
@@ -22,8 +23,9 @@ qint64 localeLineOffset(const QByteArray &profile)
 bool writeLocaleLine(const QString &fileName, const QByteArray &line)
 {
     QFile file(fileName);
-    // Opening for writing alone would create a missing profile.
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+    // Anything but a file, a pipe for one, could hold the program for ever; and without the last
+    // flag opening would create a missing profile.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         return false;
 
     // Both lines that the tool writes are 23 characters long, so they replace each other cleanly;

@@ -23,7 +23,7 @@ constexpr int STALE_LOCK_MS = 1000;
 constexpr int RETRY_MS = 20;
 constexpr char END_OF_MESSAGE = '\0';
 constexpr char ANSWER = '\x06'; // ASCII acknowledge
-constexpr qint64 MAX_MESSAGE_BYTES = 64 * 1024;
+constexpr qint64 MAX_MESSAGE_BYTES = 65536;
 
 QString basePath()
 {
@@ -74,6 +74,7 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled
     : QApplication(argc, argv)
     , m_basePath(basePath())
     , m_lock(m_basePath + QStringLiteral(".lock"))
+    , m_role(Role::Second)
 {
     Q_ASSERT(guiEnabled);
     Q_UNUSED(guiEnabled)
@@ -81,22 +82,29 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled
     m_lock.setStaleLockTime(STALE_LOCK_MS);
     connect(&m_server, &QLocalServer::newConnection, this,
             &QtSingleApplication::answerPendingConnections);
-    becomeRunningInstance();
+    m_role = takeRole();
 }
 
-bool QtSingleApplication::becomeRunningInstance()
+QtSingleApplication::Role QtSingleApplication::takeRole()
 {
-    if (!m_lock.isLocked() && !m_lock.tryLock(0))
-        return false;
+    if (!m_lock.tryLock(0)) {
+        if (m_lock.error() == QLockFile::LockFailedError && !isLockOfAnotherUser())
+            return Role::Second;
+        oxlog::critical(OX_LOG_HERE, QStringLiteral("Locking %1.lock failed.").arg(m_basePath));
+        return Role::Alone;
+    }
 
     // The lock is ours, so a socket that stands there is left over.
     const QString socketPath = m_basePath + QStringLiteral(".socket");
     QLocalServer::removeServer(socketPath);
-    if (!m_server.listen(socketPath)) {
-        oxlog::critical(OX_LOG_HERE, QStringLiteral("Listening on %1 failed: %2")
-                                         .arg(socketPath, m_server.errorString()));
-    }
-    return true;
+    if (m_server.listen(socketPath))
+        return Role::Running;
+
+    oxlog::critical(OX_LOG_HERE, QStringLiteral("Listening on %1 failed: %2")
+                                     .arg(socketPath, m_server.errorString()));
+    // Held, it would make every other start wait for an answer in vain.
+    m_lock.unlock();
+    return Role::Alone;
 }
 
 bool QtSingleApplication::isLockOfAnotherUser() const
@@ -107,11 +115,8 @@ bool QtSingleApplication::isLockOfAnotherUser() const
 
 bool QtSingleApplication::sendMessage(const QString &message, int timeout)
 {
-    if (m_lock.isLocked())
-        return false;
-
     const QDeadlineTimer deadline(timeout);
-    while (!deadline.hasExpired()) {
+    while (m_role == Role::Second && !deadline.hasExpired()) {
         QLocalSocket socket;
         socket.connectToServer(m_basePath + QStringLiteral(".socket"));
         if (socket.waitForConnected(static_cast<int>(deadline.remainingTime()))) {
@@ -121,9 +126,8 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
                 return true;
         }
         // The other instance is still starting, or it has ended meanwhile.
-        if (isLockOfAnotherUser() || becomeRunningInstance())
-            return false;
         QThread::msleep(RETRY_MS);
+        m_role = takeRole();
     }
     return false;
 }

@@ -16,16 +16,24 @@ public:
     QtSingleApplication(int &argc, char **argv, bool guiEnabled = true);
 
     // Sends message to the running instance and waits for its answer, timeout milliseconds at
-    // most over connecting, writing and the answer. False when this is the running instance, or
-    // when none under the same user answers in time: the caller then starts up as usual.
+    // most over connecting, writing and the answer. False when this is the running instance, when
+    // none under the same user answers in time, or when the temporary directory lets nobody know:
+    // the caller then starts up as usual.
     bool sendMessage(const QString &message, int timeout = 5000);
 
 private:
-    bool becomeRunningInstance();
+    enum class Role {
+        Running, // others talk to this one
+        Second,  // somebody else holds the lock
+        Alone,   // there is no telling, and the log says why
+    };
+
+    Role takeRole();
     bool isLockOfAnotherUser() const;
     void answerPendingConnections();
 
     const QString m_basePath;
     QLockFile m_lock;
     QLocalServer m_server;
+    Role m_role;
 };

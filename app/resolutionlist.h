@@ -13,6 +13,9 @@ class ResolutionList : public QListWidget
 public:
     explicit ResolutionList(QWidget *parent = nullptr);
 
+    // Room for all ten standard modes, whatever the screen's density.
+    QSize sizeHint() const override;
+
 protected:
     void focusInEvent(QFocusEvent *event) override;
 };

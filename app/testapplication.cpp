@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/testapplication.h"
 
+#include <QFile>
+
 TestApplication standardApplication()
 {
     return {QStringLiteral("vexa_standard"),
@@ -20,9 +22,15 @@ TestApplication otpApplication()
              QStringLiteral("/home/root/vexa_otp/filemanager.ini")}};
 }
 
+void removeSettings(const TestApplication &application)
+{
+    for (const QString &file : application.settingsFiles)
+        QFile::remove(file);
+}
+
 QString upgradeSelfCommand()
 {
-    // The upgrader wants the name twice: as the package and as the program to start again.
+    // The name stands twice: the upgrader takes two arguments.
     const QString name = QStringLiteral("moniconf");
     return QStringLiteral("upgrader app %1 %2").arg(name, name);
 }
@@ -35,8 +43,7 @@ QString upgradeApplicationCommand(const TestApplication &application)
 
 QString upgradeFileSystemCommand()
 {
-    // The pass phrase is no secret on the box: it only keeps a stray call from starting the
-    // upgrade, and it stands on the command line as the upgrader expects it.
+    // The pass phrase is a fixed part of the upgrader's interface and passes in the open.
     return QStringLiteral("upgrader fs %1 %2")
         .arg(QStringLiteral("fs_patches"), QStringLiteral("tore7malvin2ek+"));
 }

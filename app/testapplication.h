@@ -19,6 +19,10 @@ TestApplication standardApplication();
 // The OTP application, which only some product types carry.
 TestApplication otpApplication();
 
+// Removes the application's settings files. One that is missing or cannot be removed is passed
+// over.
+void removeSettings(const TestApplication &application);
+
 // Command lines of the system's upgrader, to be started detached: for this program itself, for a
 // test application and for the root file system.
 QString upgradeSelfCommand();

@@ -21,7 +21,7 @@ bool BaseDevice::OpenDevice(const QString &name)
     m_name = name;
     m_fd = ::open(m_name.toUtf8().constData(), O_RDWR);
     if (m_fd < 0) {
-        // The blank at the end is part of the text that support staff search for.
+        // The blank at the end is part of the text.
         m_errorString = QStringLiteral("Error opening %1. ").arg(m_name);
         oxlog::critical(OX_LOG_HERE, oxlog::quoted(m_errorString));
         return false;
@@ -49,8 +49,8 @@ QString BaseDevice::GetErrorString() const
     return m_errorString;
 }
 
-// The loops of WriteBytes and ReadBytes have no limit on purpose: the devices behind them are slow
-// and stutter but come round, and nobody could act on half a transfer.
+// The loops of WriteBytes and ReadBytes have no limit, on purpose: a device that keeps failing
+// keeps the caller.
 
 int BaseDevice::WriteBytes(const char *data, int len)
 {
@@ -66,8 +66,7 @@ int BaseDevice::WriteBytes(const char *data, int len)
 bool BaseDevice::WriteString(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
-    // Bytes against characters: device files are written digits and plain words, and the callers
-    // know the answer for anything else as false.
+    // Bytes against characters, on purpose: a text outside ASCII is written and counts as failed.
     return WriteBytes(bytes.constData(), bytes.size()) == text.size();
 }
 

@@ -9,6 +9,13 @@ namespace {
 constexpr int COUNTDOWN_SECONDS = 30;
 constexpr int TICK_MS = 1000;
 
+// The question comes with the switch, before the toolkit has heard of the new screen's size: it has
+// to fit the smallest mode of all. In pixels, less the window's frame.
+constexpr int WIDEST = 800 - 16;
+
+// The form's picture is for 96 dots an inch; for more its double is scaled down.
+constexpr int PICTURE_DPI = 96;
+
 } // namespace
 
 DialogConfirm::DialogConfirm(QWidget *parent)
@@ -17,7 +24,15 @@ DialogConfirm::DialogConfirm(QWidget *parent)
     , m_secondsLeft(COUNTDOWN_SECONDS)
 {
     ui->setupUi(this);
+    if (logicalDpiY() > PICTURE_DPI) {
+        ui->label_2->setFixedSize(ui->label_2->minimumSize() * logicalDpiY() / PICTURE_DPI);
+        ui->label_2->setPixmap(QPixmap(QStringLiteral(":/image/question@2x.png")));
+    }
     showSecondsLeft();
+    if (sizeHint().width() > WIDEST)
+        ui->m_lblQuestion->setWordWrap(true);
+    // The window keeps its size when the number gets shorter.
+    ui->m_lblQuestion->setMinimumWidth(ui->m_lblQuestion->sizeHint().width());
     connect(ui->m_btnRestorePreConfig, &QPushButton::clicked, this,
             &DialogConfirm::btnRestorePreConfig_clicked);
     connect(ui->m_btnKeepThisConfig, &QPushButton::clicked, this,

@@ -102,7 +102,7 @@ bool FbDevice::GetVarScreenInfo()
 
     const oxlog::Site site = OX_LOG_HERE;
     const auto write = [&site](const char *name, __u32 value) {
-        // With a sign, as the log has always shown them.
+        // The log shows them with a sign.
         const QString number = QString::number(static_cast<qint32>(value));
         oxlog::debug(site, QLatin1String(name) + QLatin1Char(' ') + number);
     };

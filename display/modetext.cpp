@@ -29,17 +29,23 @@ ModeTextResult parseModeText(const QString &text, quint32 &width, quint32 &heigh
         height = mode.mid(x + 1).trimmed().toUInt(&ok);
         refreshRate = DEFAULT_REFRESH_HZ;
     } else {
-        // Whether the height is a number is not asked here, on purpose: boxes in the field must
-        // go on accepting what their boot environment holds.
-        height = mode.mid(x + 1, qMax(0, at - x - 1)).toUInt();
+        // Whether the height is a number is not asked, on purpose; a bad one counts as 0.
+        height = mode.mid(x + 1, at - x - 1).toUInt();
         refreshRate = mode.mid(at + 1).toUInt(&ok);
     }
     return ok ? ModeTextResult::Read : ModeTextResult::LastIsBad;
 }
 
-QString modeText(quint32 width, quint32 height, quint32 refreshRate)
+QString switchScreenCommand(quint32 width, quint32 height, quint32 refreshRate)
 {
-    return QStringLiteral("%1x%2@%3")
+    return QStringLiteral("xrandr -s %1x%2 -r %3")
+        .arg(QString::number(width), QString::number(height), QString::number(refreshRate));
+}
+
+QString storeModeCommand(quint32 width, quint32 height, quint32 refreshRate)
+{
+    // Without the letter M, even where it was read with one.
+    return QStringLiteral("fw_setenv display %1x%2@%3")
         .arg(QString::number(width), QString::number(height), QString::number(refreshRate));
 }
 

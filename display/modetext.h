@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Text forms of a display mode.
+// Text forms of a display mode, and the commands made of them.
 #pragma once
 
 #include <QString>
@@ -18,8 +18,11 @@ enum class ModeTextResult {
 ModeTextResult parseModeText(const QString &text, quint32 &width, quint32 &height,
                              quint32 &refreshRate);
 
-// "1920x1080@60", the form of the boot loader's environment, in pixels and Hz.
-QString modeText(quint32 width, quint32 height, quint32 refreshRate);
+// The command line that switches the screen to a mode, in pixels and Hz.
+QString switchScreenCommand(quint32 width, quint32 height, quint32 refreshRate);
+
+// The command line that stores a mode, in pixels and Hz, in the boot loader's environment.
+QString storeModeCommand(quint32 width, quint32 height, quint32 refreshRate);
 
 // "1280 x 1024", the form in which the list of modes shows a size in pixels.
 QString modeItem(quint32 width, quint32 height);

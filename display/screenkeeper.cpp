@@ -19,9 +19,14 @@ ScreenKeeper::ScreenKeeper(QWidget *window)
     , m_window(window)
 {
     window->installEventFilter(this);
-    // The box has one screen, and it keeps its identity over a change of mode.
-    connect(QGuiApplication::primaryScreen(), &QScreen::availableGeometryChanged, this,
-            &ScreenKeeper::moveOntoScreen);
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &ScreenKeeper::watch);
+    watch(QGuiApplication::primaryScreen());
+}
+
+void ScreenKeeper::watch(QScreen *screen)
+{
+    if (screen)
+        connect(screen, &QScreen::availableGeometryChanged, this, &ScreenKeeper::moveOntoScreen);
 }
 
 bool ScreenKeeper::eventFilter(QObject *watched, QEvent *event)
@@ -34,9 +39,11 @@ bool ScreenKeeper::eventFilter(QObject *watched, QEvent *event)
 
 void ScreenKeeper::moveOntoScreen()
 {
+    const QScreen *const screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
     const QRect frame = m_window->frameGeometry();
-    const QPoint place =
-        placeOnScreen(frame, QGuiApplication::primaryScreen()->availableGeometry());
+    const QPoint place = placeOnScreen(frame, screen->availableGeometry());
     if (place != frame.topLeft())
         m_window->move(place);
 }

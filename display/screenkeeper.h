@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QRect>
 
+class QScreen;
 class QWidget;
 
 // Where the top-left corner of a window has to be for the window, at rect including its frame, to
@@ -25,6 +26,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void watch(QScreen *screen);
     void moveOntoScreen();
 
     QWidget *const m_window;

@@ -3,9 +3,8 @@
 
 #include "display/i2cdevice.h"
 
-// Leads the VGA connector's DDC lines to the I2C bus for as long as it lives. A box without the
-// switch file has the lines on the bus at all times: nothing is written then. Neither write is
-// checked, since the read of the monitor's block that follows tells more.
+// Leads the VGA connector's DDC lines to the I2C bus for as long as it lives. Without the switch
+// file nothing is written. Neither write is checked: what counts is whether a block can be read.
 class VgaI2cSwitch
 {
 public:

@@ -17,14 +17,19 @@ namespace {
 // The most characters of a line that are looked at: it may have megabytes.
 constexpr int LONGEST_SHOWN = 1000;
 
-// Cuts a text that tells what a file holds to half the screen, so that the window stays on it.
-QString shortened(const QLabel *label, const QString &text)
+// Shows what a file holds, cut to half the screen, so that the window stays on it.
+void showIf(bool isKnown, QLabel *label, const QString &text)
 {
-    const int width = QGuiApplication::primaryScreen()->availableSize().width() / 2;
-    return label->fontMetrics().elidedText(text.left(LONGEST_SHOWN), Qt::ElideRight, width);
+    label->setVisible(isKnown);
+    if (!isKnown)
+        return;
+    const QScreen *const screen = QGuiApplication::primaryScreen();
+    const int width = screen ? screen->availableSize().width() / 2 : label->maximumWidth();
+    label->setText(
+        label->fontMetrics().elidedText(text.left(LONGEST_SHOWN), Qt::ElideRight, width));
 }
 
-// The form's picture is for 96 dots an inch; from half as many more its double is nearer.
+// The form's picture is for 96 dots an inch; at this and above, the double-size one is closer.
 constexpr int DENSE_SCREEN_DPI = 144;
 
 } // namespace
@@ -50,14 +55,12 @@ DialogAbout::DialogAbout(QWidget *parent)
     ui->m_lblBarcode->setText(tr("Barcode: %1").arg(GlobalVars::ThisProductBarcode.barcode));
 
     QString version;
-    ui->m_lblRootfsVer->setVisible(ProductBarcode::ReadRootfsVersion(version));
-    ui->m_lblRootfsVer->setText(
-        shortened(ui->m_lblRootfsVer, tr("Rootfs Version: %1").arg(version)));
+    const bool hasVersion = ProductBarcode::ReadRootfsVersion(version);
+    showIf(hasVersion, ui->m_lblRootfsVer, tr("Rootfs Version: %1").arg(version));
 
     QString patch;
-    ui->m_lblRootfsPatch->setVisible(ProductBarcode::ReadRootfsPatch(patch));
-    ui->m_lblRootfsPatch->setText(
-        shortened(ui->m_lblRootfsPatch, tr("Rootfs Patch: %1").arg(patch)));
+    const bool hasPatch = ProductBarcode::ReadRootfsPatch(patch);
+    showIf(hasPatch, ui->m_lblRootfsPatch, tr("Rootfs Patch: %1").arg(patch));
 }
 
 DialogAbout::~DialogAbout() = default;

@@ -63,8 +63,8 @@ void DialogPreference::buttonBox_clicked(QAbstractButton *button)
         return;
     }
 
-    // The clock's script, not this one: the copy of autobootapp.sh stays in /tmp for whoever wants
-    // to know what ran, and the next run replaces it.
+    // The clock's script and not this one: once a slip, now what the box is known to do. The copy
+    // of autobootapp.sh stays in /tmp until the next run replaces it.
     QFile::remove(QStringLiteral("/tmp/calclock.sh"));
 
     if (result == ScriptResult::RunFailed) {

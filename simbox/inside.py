@@ -50,6 +50,8 @@ def desktop(mode):
     if switch.returncode != 0:
         raise RuntimeError(f'the screen cannot show {mode}: {switch.stderr.strip()}')
     subprocess.run(['xsetroot', '-solid', '#2f4858'], check=True)
+    # Whatever the mode: programs would take the density from a picture tube of one size.
+    subprocess.run(['xrdb', '-nocpp', '-merge'], input=b'Xft.dpi: 96\n', check=True)
     wait_for(start('matchbox-window-manager'), lambda: b'window id' in subprocess.run(
         ['xprop', '-root', '_NET_SUPPORTING_WM_CHECK'], stdout=subprocess.PIPE,
         check=False).stdout)

@@ -59,7 +59,7 @@ void TestShell::modeTexts()
     quint32 height = 8;
     quint32 refreshRate = 9;
     QTEST(int(parseModeText(text, width, height, refreshRate)), "result");
-    QTEST(modeText(width, height, refreshRate), "numbers");
+    QTEST(QStringLiteral("%1x%2@%3").arg(width).arg(height).arg(refreshRate), "numbers");
 }
 
 void TestShell::versionQuery_data()

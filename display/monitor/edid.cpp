@@ -52,8 +52,7 @@ constexpr int MIN_HORIZONTAL_KHZ = 7;
 constexpr int MAX_HORIZONTAL_KHZ = 8;
 constexpr int MAX_CLOCK_10MHZ = 9;
 
-// Bit 7 of the first byte first. The last two carry no unit and stay so: dumps are compared byte
-// for byte.
+// Bit 7 of the first byte first. The last two carry no unit, on purpose.
 constexpr const char *ESTABLISHED_TIMING_LINES[] = {
     "\t720x400\t\t70 Hz (VGA 640x400, IBM)\n",
     "\t720x400\t\t88 Hz (XGA2)\n",
@@ -180,7 +179,7 @@ std::string displayText(const unsigned char *edid)
 
 std::string establishedTimingsText(const unsigned char *edid)
 {
-    std::string text = "Estabilished timings:\n"; // spelt so, as are the dumps it is compared with
+    std::string text = "Estabilished timings:\n"; // spelt so, on purpose
     int index = 0;
     for (const char *timing : ESTABLISHED_TIMING_LINES) {
         if ((edid[ESTABLISHED_TIMINGS + index / 8] & 0x80 >> index % 8) != 0)
@@ -202,7 +201,7 @@ std::string standardTimingsText(const unsigned char *edid)
     for (std::size_t index = 0; index < STANDARD_TIMING_COUNT; ++index) {
         const unsigned char *timing = edid + STANDARD_TIMINGS + 2 * index;
         const int rate = timing[1] & 0x3F;
-        // 01 01 marks an entry as unused; 00 00 is found in the field with the same meaning.
+        // 01 01 marks an entry as unused, and 00 00 is taken for the same.
         if (timing[0] <= 1 && timing[0] == rate)
             continue;
         const unsigned width = (timing[0] + 31U) * 8;

@@ -5,6 +5,7 @@
 #include "libOxUtils/utils/log.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
 #include <unistd.h>
@@ -43,14 +44,20 @@ QString rendered(const ConfFile::T_ConfItem &item)
     return line.trimmed();
 }
 
-QString doesNotExist()
+// Opens a file that has to be there already. A failure is logged in the caller's name.
+bool openExisting(QFile &file, QIODevice::OpenMode mode, const oxlog::Site &caller)
 {
-    return QStringLiteral("File does not exist...");
-}
-
-QString cannotOpen(const QString &fileName)
-{
-    return oxlog::quoted(QStringLiteral("Cannot open file: %1!").arg(fileName));
+    if (!file.exists()) {
+        oxlog::critical(caller, QStringLiteral("File does not exist..."));
+        return false;
+    }
+    // Anything but a file, a pipe for one, could hold the program for ever.
+    if (!QFileInfo(file).isFile() || !file.open(mode | QIODevice::Text)) {
+        oxlog::critical(caller, oxlog::quoted(
+                                    QStringLiteral("Cannot open file: %1!").arg(file.fileName())));
+        return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -107,14 +114,8 @@ bool ConfFile::SaveConf()
 bool ConfFile::loadToStringList(QStringList &lines)
 {
     QFile file(m_fileName);
-    if (!file.exists()) {
-        oxlog::critical(OX_LOG_HERE, doesNotExist());
+    if (!openExisting(file, QIODevice::ReadOnly, OX_LOG_HERE))
         return false;
-    }
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        oxlog::critical(OX_LOG_HERE, cannotOpen(m_fileName));
-        return false;
-    }
     QTextStream stream(&file);
     const QString text = stream.readAll();
     file.close();
@@ -128,14 +129,8 @@ bool ConfFile::loadToStringList(QStringList &lines)
 bool ConfFile::saveFromStringList(const QStringList &lines)
 {
     QFile file(m_fileName);
-    if (!file.exists()) {
-        oxlog::critical(OX_LOG_HERE, doesNotExist());
+    if (!openExisting(file, QIODevice::WriteOnly, OX_LOG_HERE))
         return false;
-    }
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        oxlog::critical(OX_LOG_HERE, cannotOpen(m_fileName));
-        return false;
-    }
     // As one text, so that the file stands truncated for as short as possible: the box may lose
     // power right after a setting is changed.
     QTextStream stream(&file);

@@ -28,9 +28,9 @@ QString appVersion(const QString &buildDate, const QString &buildTime)
     const QDateTime local = QLocale(QLocale::English, QLocale::UnitedStates)
                                 .toDateTime(built, QStringLiteral("MMM d yyyy HH:mm:ss"));
     // The build's clock is taken as the box's local time, so that the same build has another name
-    // in another zone. Boxes run in UTC+8, where it is the build's own clock.
+    // in another zone. In UTC+8 it is the build's own clock.
     const QDateTime shown = local.toOffsetFromUtc(VERSION_ZONE_SECONDS);
-    // The last part is room for a suffix, which no release has.
+    // The last part is an empty suffix.
     return QStringLiteral("%1.%2.%3.%4%5")
         .arg(QString::number(VERSION_MAJOR), QString::number(VERSION_MINOR),
              shown.date().toString(QStringLiteral("Mdd")),

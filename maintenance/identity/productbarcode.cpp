@@ -27,7 +27,7 @@ constexpr ProductType PRODUCT_TYPES[] = {
 };
 constexpr qint32 UNKNOWN_TYPE_COUNTS_AS = 458;
 
-// Boxes whose type is not the one on their label.
+// Barcodes whose type does not follow from their first three digits.
 constexpr struct
 {
     const char *barcode;
@@ -82,8 +82,7 @@ bool ProductBarcode::DecodeBarcode(T_Barcode &barcode, const QStringList &lines)
     barcode.barcode = lines.at(BARCODE_LINE);
     barcode.type = typeOf(barcode.barcode);
 
-    // On purpose the family's date ends in this copy: it is no box's own date of production, and
-    // the record's stays null.
+    // The family's date goes into this copy alone, on purpose: the record's own stays null.
     QDate productionDate = barcode.productionDate;
     setProductionDate(productionDate, barcode.barcode.mid(3, 2));
 

@@ -10,9 +10,9 @@ import driver
 from driver import click, keys, screen_size, stored_mode, wait_for, wait_for_window, wait_until_gone
 
 BOOT_CONFIG = Path('/etc/fw_env.config')
-APPLY = (236, 203)      # pixels from the window's corner, in the box's font
-FIRST_ROW = (60, 55)
-ROW_HEIGHT = 18
+APPLY = (236, 217)      # pixels from the window's corner, in the box's font
+FIRST_ROW = (60, 51)
+ROW_HEIGHT = 15
 
 
 def click_row(window, row):
