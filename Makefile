@@ -5,7 +5,7 @@ BUILD := build/release
 JOBS := $(shell nproc)
 WERROR := OFF
 
-.PHONY: run check lint packages build
+.PHONY: run check screenshots lint packages build
 
 # The tool in the simulated box, in a browser page.
 run: build
@@ -14,6 +14,10 @@ run: build
 # Every test: units, dialogs, and the real program in the simulated box.
 check: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+# A picture of every window in both languages, and those of README and manual.
+screenshots: build
+	docs/screenshots.py $(BUILD) build/screenshots
 
 build: packages
 	cmake --preset release -DMONICONF_WERROR=$(WERROR)

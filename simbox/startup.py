@@ -5,7 +5,8 @@
     simbox/simbox exec simbox/startup.py -n 7 PROGRAM...
 
 The programs take turns. A window counts as painted once the middle of the screen shows several
-colours, that is, text on a ground; it is looked at as fast as the X server answers.
+colours, that is, text on a ground; it is looked at each millisecond, which leaves the X server and
+the processors to the program.
 """
 
 import argparse
@@ -15,7 +16,7 @@ import subprocess
 import sys
 import time
 
-SIDE = 160          # pixels, of the square in the middle of the screen that is looked at
+SIDE = 100          # pixels, of the square in the middle of the screen that is looked at
 SEVERAL = 8         # colours
 GIVE_UP = 20        # seconds
 
@@ -52,6 +53,7 @@ class Screen:
         while not wanted(self.colours()):
             if time.monotonic() - start > GIVE_UP:
                 sys.exit('the screen does not change as expected')
+            time.sleep(0.001)
 
 
 def memory(pid):
