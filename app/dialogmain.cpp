@@ -101,8 +101,6 @@ DialogMain::DialogMain(QWidget *parent)
     , ui(new Ui_DialogMain)
 {
     ui->setupUi(this);
-    // The form's size is for 96 dots an inch; on a denser screen the list needs more.
-    resize(size().expandedTo(sizeHint()));
     secTimer_timeout();
     m_timer = new QTimer(this);
     createMenu();
@@ -112,6 +110,8 @@ DialogMain::DialogMain(QWidget *parent)
     m_actPreference->setVisible(hasOtpApplication());
     listMonitorResolutions();
     m_timer->start(CLOCK_TICK_MS);
+    // The form's size is for 96 dots an inch; on a denser screen the list needs more.
+    resize(size().expandedTo(sizeHint()));
 }
 
 DialogMain::~DialogMain()

@@ -3,8 +3,9 @@
 
 #include <QComboBox>
 
-// A combo box that leaves key presses with Ctrl to its window: the toolkit's own takes them for
-// the start of an item's name, and the window's Ctrl+E would be lost while the box has the focus.
+// The main window's choice of language: a combo box that leaves key presses with Ctrl to its
+// window: the toolkit's own takes them for the start of an item's name, and the window's Ctrl+E
+// would be lost while the box has the focus.
 class LanguageBox : public QComboBox
 {
     Q_OBJECT

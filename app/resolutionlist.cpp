@@ -6,6 +6,7 @@
 
 #include <QStyle>
 
+#include <algorithm>
 #include <iterator>
 
 ResolutionList::ResolutionList(QWidget *parent)
@@ -15,8 +16,10 @@ ResolutionList::ResolutionList(QWidget *parent)
 
 QSize ResolutionList::sizeHint() const
 {
-    const T_ResolutionEntry &widest = *std::prev(std::end(ALL_RESOLUTIONS));
-    const int text = fontMetrics().horizontalAdvance(modeItem(widest.width, widest.height));
+    int text = 0;
+    for (const T_ResolutionEntry &entry : ALL_RESOLUTIONS) {
+        text = std::max(text, fontMetrics().horizontalAdvance(modeItem(entry.width, entry.height)));
+    }
     const int rows = fontMetrics().height() * static_cast<int>(std::size(ALL_RESOLUTIONS));
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     const int frame = 2 * frameWidth();
@@ -29,6 +32,7 @@ void ResolutionList::focusInEvent(QFocusEvent *event)
         QListWidget::focusInEvent(event);
         return;
     }
-    QAbstractScrollArea::focusInEvent(event);
+    // What lies between is the toolkit's choice of a row.
+    QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
 }

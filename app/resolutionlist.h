@@ -3,9 +3,9 @@
 
 #include <QListWidget>
 
-// A list whose current row is only ever set by the user or the program. The toolkit's own list
-// makes its first row current as soon as it gets the focus, and OK, pressed for the language
-// alone, would then switch the screen to a mode that nobody chose.
+// The main window's list of modes, whose current row is only ever set by the user or the program.
+// The toolkit's own list makes its first row current as soon as it gets the focus, and OK, pressed
+// for the language alone, would then switch the screen to a mode that nobody chose.
 class ResolutionList : public QListWidget
 {
     Q_OBJECT

@@ -38,9 +38,12 @@ void installApplicationFont(const QString &fontFile, int pointSize)
 
 void setWindowIconLater()
 {
-    QTimer::singleShot(ICON_DELAY_MS, qApp, [] {
+    auto *const timer = new QTimer(qApp);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, qApp, [] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/moniconf.png")));
     });
+    timer->start(ICON_DELAY_MS);
 }
 
 GlIntegrationSetting::GlIntegrationSetting()

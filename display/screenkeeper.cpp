@@ -31,8 +31,8 @@ void ScreenKeeper::watch(QScreen *screen)
 
 bool ScreenKeeper::eventFilter(QObject *watched, QEvent *event)
 {
-    // The window manager has its say about the place between showing and activation.
-    if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
+    // The window manager has had its say about the place by then.
+    if (event->type() == QEvent::WindowActivate)
         moveOntoScreen();
     return QObject::eventFilter(watched, event);
 }

@@ -12,8 +12,8 @@ class QWidget;
 // the area's own corner. All in pixels.
 QPoint placeOnScreen(const QRect &rect, const QRect &area);
 
-// Keeps a top-level window wholly on the screen when it is shown and each time the screen changes
-// its size, which the toolkit hears of only some time after xrandr has returned.
+// Keeps a top-level window wholly on the screen when it becomes active and each time the screen
+// changes its size, which the toolkit hears of only some time after xrandr has returned.
 class ScreenKeeper : public QObject
 {
     Q_OBJECT
