@@ -208,6 +208,7 @@ void TestDialogMain::failingStoreIsReported()
          [&](QWidget *box) {
              write(config, configBefore);
              QVERIFY(!qobject_cast<QMessageBox *>(box)->text().isEmpty());
+             QCOMPARE(qobject_cast<QMessageBox *>(box)->textFormat(), Qt::PlainText);
              box->close();
          }});
     apply->click();

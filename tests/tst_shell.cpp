@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the main window relies on and what needs no window.
+#include "app/errortext.h"
 #include "app/instruction.h"
 #include "app/profile.h"
 #include "app/startup.h"
@@ -22,6 +23,7 @@ private slots:
     void localeLines();
     void missingProfileStaysMissing();
     void instructions();
+    void longMessages();
     void placesOnScreen_data();
     void placesOnScreen();
 };
@@ -142,6 +144,16 @@ void TestShell::instructions()
     QCOMPARE(noDisplayForInstruction(QStringLiteral("LowerHarborGate")), QStringLiteral("true"));
     for (const char *other : {"liftharborgate", " LiftHarborGate", "LowerHarborGate ", "x"})
         QVERIFY2(noDisplayForInstruction(QString::fromLatin1(other)).isNull(), other);
+}
+
+void TestShell::longMessages()
+{
+    const QString fits = QStringLiteral("1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n");
+    QCOMPARE(shortenedMessage(fits), fits);
+    QCOMPARE(shortenedMessage(QString()), QString());
+    const QString ellipsis = QChar(0x2026);
+    QCOMPARE(shortenedMessage(fits + QStringLiteral("11")), fits.trimmed() + ellipsis);
+    QCOMPARE(shortenedMessage(QString(2000000, QLatin1Char('x'))).size(), 1001);
 }
 
 void TestShell::placesOnScreen_data()
