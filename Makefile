@@ -4,8 +4,10 @@
 BUILD := build/release
 JOBS := $(shell nproc)
 WERROR := OFF
+PACKAGES := build/packages
+SYSROOT := build/sysroot-armhf
 
-.PHONY: run check screenshots lint packages build
+.PHONY: run check screenshots lint packages build package check-package check-armhf package-tools
 
 # The tool in the simulated box, in a browser page.
 run: build
@@ -35,3 +37,28 @@ lint:
 	run-clang-tidy -quiet -p build/dev $$(git ls-files '*.cpp' | grep -v ^tests/)
 	cppcheck --project=build/dev/compile_commands.json --quiet --inline-suppr --error-exitcode=1 \
 		--enable=warning,performance,portability --library=qt -i$(CURDIR)/build
+
+# Debian packages for this kind of machine and for the box, checked; they are in build/packages.
+package: $(SYSROOT)/complete
+	packaging/build-package amd64 $(PACKAGES)
+	packaging/build-package armhf $(PACKAGES) $(SYSROOT)
+	desktop-file-validate packaging/moniconf.desktop
+	lintian --fail-on error,warning $(PACKAGES)/*.deb
+	$(MAKE) check-package
+
+# The package installed, used and removed in the simulated box.
+check-package:
+	simbox/simbox --package $(PACKAGES)/moniconf_*_amd64.deb exec tests/box/test_package.py
+
+# The unit tests and the program, built for the box and run by an emulator of its processor.
+check-armhf: $(SYSROOT)/complete
+	cmake --preset armhf -DMONICONF_WERROR=$(WERROR)
+	cmake --build --preset armhf -j $(JOBS)
+	ctest --test-dir build/armhf --output-on-failure -j $(JOBS) -R ^unit
+	packaging/run-armhf $(SYSROOT) build/armhf/moniconf -v
+
+$(SYSROOT)/complete: packaging/make-sysroot | package-tools
+	packaging/make-sysroot $(SYSROOT)
+
+package-tools:
+	packaging/install-build-packages packaging/build-packages.txt packaging/package-packages.txt

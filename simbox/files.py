@@ -14,6 +14,9 @@ APPLICATIONS = 'usr/share/applications'
 TERMINAL = f'{APPLICATIONS}/matchbox-terminal.desktop'
 # Writable in the box in place of the machine's own.
 REPLACED = (APPLICATIONS, 'usr/share/fonts', 'usr/lib/locale', 'usr/local/bin')
+# Writable too where a package is installed; the box's /usr/bin then leads to the machine's.
+PACKAGED = ('usr/bin', 'usr/share/doc', 'usr/share/icons', 'usr/share/lintian', 'usr/share/man')
+MACHINE = '/run/machine'
 DIRECTORIES = ('tmp', 'var/lib', 'var/lock', 'var/cache', 'run/user/0', 'run/simbox',
                'etc/xdg/autostart', 'opt/moniconf')
 SETTINGS = ('home/root/vexa_standard/vexaapp.ini', 'home/root/vexa_standard/usersensor.ini',
@@ -76,6 +79,19 @@ def install(root, build):
         for file in filter(Path.is_file, build.glob(name)):
             shutil.copy(file, root / 'opt/moniconf')
     return (root / 'opt/moniconf/moniconf').is_file()
+
+
+def welcome_package(root):
+    """Lets dpkg install in the box, where it knows the machine's packages."""
+    for name in PACKAGED + ('var/lib/dpkg/info', 'var/lib/dpkg/updates'):
+        (root / name).mkdir(parents=True)
+    for program in os.listdir('/usr/bin'):
+        (root / 'usr/bin' / program).symlink_to(f'{MACHINE}/bin/{program}')
+    shutil.copy('/var/lib/dpkg/status', root / 'var/lib/dpkg/status')
+    # Or dpkg takes what the box is made of for the package's own directories.
+    (root / 'var/lib/dpkg/info/base-files.list').write_text(
+        ''.join(f'/{name}\n' for name in ('opt', 'usr', 'usr/share') + PACKAGED + REPLACED),
+        encoding='ascii')
 
 
 def show(root):

@@ -7,7 +7,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cerrno>
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -109,6 +111,9 @@ void TestDevices::baseDeviceFailures()
 
 void TestDevices::fbDeviceFailures()
 {
+    constexpr unsigned long SET_GAMMA = 0x40844628;
+    if (::ioctl(-1, SET_GAMMA) == -1 && errno == ENOSYS)
+        QSKIP("this machine is emulated by something that does not know the request");
     const LogCapture log;
     FbDevice *const device = FbDevice::Instance();
     QVERIFY(device->CloseDevice());

@@ -1,0 +1,58 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The installed package: there, started from its desktop entry, used and removed."""
+
+import subprocess
+import unittest
+from pathlib import Path
+
+import gi
+gi.require_version('Gio', '2.0')
+from gi.repository import Gio, GLib  # noqa: E402
+
+import driver  # noqa: E402
+from driver import keys, wait_for, wait_for_window, wait_until_gone  # noqa: E402
+from test_display import APPLY, click_row  # noqa: E402
+
+HOME = Path('/opt/moniconf')
+LOG = Path('/tmp/entry.log')
+
+
+def launch(entry):
+    """Starts the program of a desktop entry as a desktop does."""
+    with open(LOG, 'wb') as log:
+        return Gio.DesktopAppInfo.new_from_filename(entry).launch_uris_as_manager_with_fds(
+            [], None, GLib.SpawnFlags.SEARCH_PATH, None, None, None, None,
+            -1, log.fileno(), log.fileno())
+
+
+class Package(unittest.TestCase):
+    def test_use_and_removal(self):
+        files = [Path(name) for name in driver.output('dpkg', '--listfiles', 'moniconf').split('\n')
+                 if not Path(name).is_dir()]
+        self.assertEqual([file for file in files if not file.exists()], [])
+        self.assertEqual(list(Path('/var/lib/dpkg/info').glob('moniconf.*inst')), [])
+        self.assertRegex(driver.output('/usr/bin/moniconf', '-v'), r'^moniconf 1\.2\.')
+
+        entry = next(str(file) for file in files if file.suffix == '.desktop')
+        self.assertTrue(launch(entry))
+        window = wait_for_window('Display Settings')
+        click_row(window, 0)
+        driver.click(window, *APPLY)
+        wait_for_window('Information')
+        keys('Tab', 'space')
+        wait_for(lambda: driver.stored_mode() == '800x600@60', 'stored mode')
+        wait_for_window('Display Settings')
+        keys('Escape')
+        wait_until_gone('Display Settings')
+        self.assertIn('debug main:37 main: ', LOG.read_text())
+        self.assertNotIn('moniconf_en_US.qm failed', LOG.read_text())
+
+        (HOME / 'ui.ini').write_text('[Preference]\nAutoStartApp=1\n')
+        subprocess.run(['dpkg', '--purge', 'moniconf'], capture_output=True, check=True)
+        self.assertEqual([file for file in files if file.exists() or file.is_symlink()], [])
+        self.assertEqual(list(HOME.iterdir()), [HOME / 'ui.ini'])
+
+
+if __name__ == '__main__':
+    unittest.main()
