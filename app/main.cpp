@@ -9,6 +9,7 @@
 #include "libOxUtils/utils/log.h"
 #include "maintenance/identity/appversion.h"
 
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -25,6 +26,7 @@ int main(int argc, char *argv[])
     GlIntegrationSetting glSetting;
     QtSingleApplication app(argc, argv, true);
     glSetting.settle();
+    keepFurtherPluginsOut();
 
     // A running instance does not come to the front: it answers, and that is all.
     if (app.sendMessage(QStringLiteral("Wake up!"), 5000))
@@ -54,7 +56,7 @@ int main(int argc, char *argv[])
     ModalFocusGuard focusGuard;
     app.installNativeEventFilter(&focusGuard);
 
-    setWindowIconLater();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/moniconf.png")));
     DialogMain dialog;
     dialog.show();
     return QApplication::exec();

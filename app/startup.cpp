@@ -4,15 +4,11 @@
 #include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
-#include <QIcon>
 #include <QOpenGLContext>
-#include <QTimer>
 
 #include <cstring>
 
 namespace {
-
-constexpr int ICON_DELAY_MS = 300;
 
 constexpr char GL_INTEGRATION_VARIABLE[] = "QT_XCB_GL_INTEGRATION";
 
@@ -36,14 +32,9 @@ void installApplicationFont(const QString &fontFile, int pointSize)
     QApplication::setFont(font);
 }
 
-void setWindowIconLater()
+void keepFurtherPluginsOut()
 {
-    auto *const timer = new QTimer(qApp);
-    timer->setSingleShot(true);
-    QObject::connect(timer, &QTimer::timeout, qApp, [] {
-        QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/moniconf.png")));
-    });
-    timer->start(ICON_DELAY_MS);
+    QCoreApplication::setLibraryPaths({});
 }
 
 GlIntegrationSetting::GlIntegrationSetting()

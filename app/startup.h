@@ -11,9 +11,11 @@ bool isVersionQuery(int argc, const char *const argv[]);
 // toolkit's default font stays, without a message, when the file is missing or holds no family.
 void installApplicationFont(const QString &fontFile, int pointSize);
 
-// Gives all windows the program's icon once events have been served for a moment. Loading the
-// toolkit's decoders of pictures takes about 3 ms, of some 45 to the first painted window.
-void setWindowIconLater();
+// Keeps plugins that the toolkit has not loaded with the application object from being loaded later.
+// All pictures here are PNG files, which it reads by itself; but its first picture, the frame of a
+// group box, would make it load every decoder that is installed, some 3 ms on the way to the first
+// window, and half a megabyte for good.
+void keepFurtherPluginsOut();
 
 // Keeps the toolkit from loading an OpenGL integration, which this program never draws with and
 // which takes a third of the time to the first painted window, and more memory than all the rest.

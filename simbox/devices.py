@@ -28,9 +28,11 @@ NODE = 'P: /devices/{0}\nN: {0}\nE: DEVNAME=/dev/{0}\nE: SUBSYSTEM=box\n\n'
 LED = 'P: /devices/leds/vga-i2c-enb\nE: SUBSYSTEM=leds\nA: brightness=0\n\n'
 
 
+calls = os.open(RUN / 'calls', os.O_WRONLY | os.O_APPEND | os.O_CREAT)
+
+
 def record(line):
-    with open(RUN / 'calls', 'a', encoding='utf-8') as calls:
-        calls.write(line + '\n')
+    os.write(calls, f'{line}\n'.encode())
 
 
 class Led:
@@ -62,17 +64,19 @@ class Bus:
 
     def __init__(self, name, is_connected=lambda: True):
         self.name = name
+        self.file = RUN / name
         self.is_connected = is_connected
         self.plugged = self.failures = self.block = None
 
     def ioctl(self, request, argument):
         if request != I2C_RDWR:
             return -1, errno.ENOTTY
-        file = RUN / self.name
-        plugged = file.stat().st_mtime_ns, file.read_text(encoding='utf-8').strip()
+        status = os.stat(self.file)
+        plugged = status.st_mtime_ns, status.st_ino
         if plugged != self.plugged:
             self.plugged = plugged
-            self.failures, monitor = monitors.split(plugged[1])
+            what = self.file.read_text(encoding='utf-8').strip()
+            self.failures, monitor = monitors.split(what)
             self.block = monitors.block(monitor)
         answers = self.is_connected() and self.block is not None
         if answers and self.failures > 0:
