@@ -11,10 +11,10 @@ bool isVersionQuery(int argc, const char *const argv[]);
 // toolkit's default font stays, without a message, when the file is missing or holds no family.
 void installApplicationFont(const QString &fontFile, int pointSize);
 
-// Keeps plugins that the toolkit has not loaded with the application object from being loaded later.
-// All pictures here are PNG files, which it reads by itself; but its first picture, the frame of a
-// group box, would make it load every decoder that is installed, some 3 ms on the way to the first
-// window, and half a megabyte for good.
+// Keeps plugins that the toolkit has not loaded with the application object from being loaded
+// later. All pictures here are PNG files, which it reads by itself; but its first picture, the
+// frame of a group box, would make it load every decoder that is installed, some 3 ms on the way to
+// the first window, and half a megabyte for good.
 void keepFurtherPluginsOut();
 
 // Keeps the toolkit from loading an OpenGL integration, which this program never draws with and
