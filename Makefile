@@ -35,8 +35,8 @@ lint:
 	cmake --build --preset dev -j $(JOBS)
 	clang-format --dry-run -Werror $$(git ls-files '*.cpp' '*.h')
 	run-clang-tidy -quiet -p build/dev $$(git ls-files '*.cpp' | grep -v ^tests/)
-	cppcheck --project=build/dev/compile_commands.json --quiet --inline-suppr --error-exitcode=1 \
-		--enable=warning,performance,portability --library=qt -i$(CURDIR)/build
+	cppcheck --quiet --inline-suppr --error-exitcode=1 --enable=warning,performance,portability \
+		--library=qt -I. app display maintenance libOxUtils
 
 # Debian packages for this kind of machine and for the box, checked; they are in build/packages.
 package: $(SYSROOT)/complete
