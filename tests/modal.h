@@ -23,7 +23,7 @@ class ModalAnswers : public QObject
 public:
     using Action = std::function<void(QWidget *)>;
 
-    explicit ModalAnswers(std::vector<Action> actions, int timeoutMs = 5000)
+    explicit ModalAnswers(std::vector<Action> actions, int timeoutMs = 60000)
         : m_actions(std::move(actions))
         , m_timeoutMs(timeoutMs)
     {

@@ -179,6 +179,7 @@ void TestDialogMain::focusSetsNoRow()
 void TestDialogMain::nothingSelected()
 {
     attach("640x480");
+    write(QStringLiteral("/etc/profile"), "export LANG=zh_CN.UTF-8\n");
     DialogMain dialog;
     dialog.show();
     dialog.findChild<QComboBox *>()->setCurrentText(QStringLiteral("English"));

@@ -174,7 +174,7 @@
     </message>
     <message>
         <source>The feature is protected by instruction!</source>
-        <translation>此功能受指令保护！</translation>
+        <translation>此功能需要输入指令！</translation>
     </message>
     <message>
         <source>Unkown instruction!</source>
@@ -198,7 +198,7 @@
     </message>
     <message>
         <source>Query</source>
-        <translation>询问</translation>
+        <translation>确认</translation>
     </message>
     <message>
         <source>Information</source>

@@ -33,24 +33,26 @@ class Display(unittest.TestCase):
         click(window, *APPLY)
         return wait_for_window('Information')
 
-    def assert_on_screen(self, window):
+    @staticmethod
+    def is_on_screen(window):
         place = dict(line.split('=') for line in driver.output(
             'xdotool', 'getwindowgeometry', '--shell', window).splitlines())
         x, y, width, height = (int(place[name]) for name in ('X', 'Y', 'WIDTH', 'HEIGHT'))
         right, bottom = map(int, screen_size().split('x'))
-        self.assertTrue(0 <= x <= right - width and 0 <= y <= bottom - height, (place, right, bottom))
+        return 0 <= x <= right - width and 0 <= y <= bottom - height
 
     def test_keep(self):
         question = self.apply(0)
         self.assertEqual(screen_size(), '800x600')
         main = driver.find_windows('Display Settings')[0]
-        wait_for(lambda: self.assert_on_screen(question) or True, 'question on the screen')
-        self.assert_on_screen(main)
+        wait_for(lambda: self.is_on_screen(question), 'question on the screen')
+        wait_for(lambda: self.is_on_screen(main), 'main window on the screen')
         keys('Tab', 'space')
         wait_until_gone('Information')
         self.assertEqual(wait_for(lambda: stored_mode() != '1920x1080M@60' and stored_mode(),
                                   'stored mode'), '800x600@60')
         # It is the current mode now: OK ends without a question, and writes the language.
+        Path('/etc/profile').write_text('export LANG=zh_CN.UTF-8\n')
         wait_for_window('Display Settings')
         click_row(main, 0)
         keys('Tab', 'Tab', 'Down', 'Tab', 'space')
@@ -102,7 +104,7 @@ class Display(unittest.TestCase):
         click(window, *APPLY)
         wait_for_window('Information')
         self.assertEqual(screen_size(), '1280x1024')
-        led = driver.calls('led')
+        led = wait_for(lambda: driver.calls('led'), 'the switch of the VGA lines')
         self.assertEqual(led, ['led 1', 'led 0'] * (len(led) // 2))
 
     def test_child_processes_are_spared_the_toolkit_setting(self):

@@ -5,12 +5,11 @@
 import os
 import signal
 import socket
-import time
 import unittest
 from pathlib import Path
 
 import driver
-from driver import wait_for, wait_for_window
+from driver import wait_for, wait_for_window, wait_until_gone
 
 TITLE = 'Display Settings'
 
@@ -27,9 +26,7 @@ class SingleInstance(unittest.TestCase):
     def test_second_start_ends(self):
         first = self.start()
         wait_for_window(TITLE)
-        begin = time.monotonic()
         self.assertEqual(self.start().wait_for_end(), 0)
-        self.assertLess(time.monotonic() - begin, 5)
         self.assertEqual(self.start('--other').wait_for_end(), 0)
         self.assertEqual(len(driver.find_windows(TITLE)), 1)
         self.assertRegex(driver.output(driver.PROGRAM, '-v'), r'^moniconf 1\.2\.\d{3,4}\.\d{5,6}$')
@@ -59,10 +56,15 @@ class SingleInstance(unittest.TestCase):
 
         for leave in (killed, killed_and_cleaned, power_cut):
             with self.subTest(leave.__name__):
-                leave(self.start())
                 tool = self.start()
                 wait_for_window(TITLE)
+                leave(tool)
+                wait_until_gone(TITLE)
+                tool = self.start()
+                wait_for_window(TITLE)
+                self.assertEqual(self.start().wait_for_end(), 0)
                 tool.stop()
+                wait_until_gone(TITLE)
 
     def test_stopped_instance(self):
         first = self.start()
