@@ -17,7 +17,7 @@ from pathlib import Path
 
 DOCS = Path(__file__).resolve().parent
 sys.dont_write_bytecode = True
-sys.path.append(str(DOCS.parent / 'tests/box'))
+sys.path.append(str(DOCS.parent / 'simbox'))
 import driver  # noqa: E402
 from driver import keys, output, wait_for  # noqa: E402
 
