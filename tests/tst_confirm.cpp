@@ -2,7 +2,6 @@
 #include "display/dialogconfirm.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QtTest>
 
 class TestConfirm : public QObject
@@ -11,8 +10,6 @@ class TestConfirm : public QObject
 
 private slots:
     void countsDownAndRejects();
-    void endings_data();
-    void endings();
 };
 
 void TestConfirm::countsDownAndRejects()
@@ -31,35 +28,6 @@ void TestConfirm::countsDownAndRejects()
     }
     QCOMPARE(sentence->text(), text.arg(0));
     QCOMPARE(rejected.count(), 1);
-}
-
-void TestConfirm::endings_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("focus"); // empty: where the dialog puts it
-    QTest::addColumn<int>("result");
-    QTest::newRow("Enter without looking")
-        << int(Qt::Key_Return) << QString() << int(QDialog::Rejected);
-    QTest::newRow("Space without looking")
-        << int(Qt::Key_Space) << QString() << int(QDialog::Rejected);
-    QTest::newRow("Escape") << int(Qt::Key_Escape) << QString() << int(QDialog::Rejected);
-    QTest::newRow("Enter on Keep")
-        << int(Qt::Key_Return) << QStringLiteral("m_btnKeepThisConfig") << int(QDialog::Accepted);
-}
-
-void TestConfirm::endings()
-{
-    QFETCH(int, key);
-    QFETCH(QString, focus);
-    DialogConfirm dialog(nullptr);
-    dialog.setResult(-1);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    if (!focus.isEmpty())
-        dialog.findChild<QPushButton *>(focus)->setFocus();
-    QTest::keyClick(dialog.focusWidget(), Qt::Key(key));
-    QTEST(dialog.result(), "result");
-    QVERIFY(!dialog.isVisible());
 }
 
 QTEST_MAIN(TestConfirm)

@@ -8,12 +8,8 @@
 #include <QtTest>
 
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/ioctl.h>
-#include <sys/stat.h>
 #include <unistd.h>
-
-#include <thread>
 
 class TestDevices : public QObject
 {
@@ -21,7 +17,6 @@ class TestDevices : public QObject
 
 private slots:
     void opensOnceAndWrites();
-    void movesAllThroughStutteringPipe();
     void baseDeviceFailures();
     void fbDeviceFailures();
 
@@ -61,31 +56,6 @@ void TestDevices::opensOnceAndWrites()
     QCOMPARE(first.readAll(), QByteArray("1\xc2\xb0"));
     QVERIFY(device.CloseDevice());
     QVERIFY(device.CloseDevice());
-}
-
-// More than a pipe holds, and neither end waits: both see partial transfers and errors.
-void TestDevices::movesAllThroughStutteringPipe()
-{
-    const QString path = m_directory.filePath(QStringLiteral("pipe"));
-    QCOMPARE(::mkfifo(path.toUtf8().constData(), 0600), 0);
-    QByteArray sent(300001, Qt::Uninitialized);
-    for (int i = 0; i < sent.size(); ++i)
-        sent[i] = static_cast<char>(i % 251);
-    QByteArray received(sent.size(), '\0');
-
-    BaseDevice from;
-    BaseDevice to;
-    for (BaseDevice *device : {&from, &to}) {
-        QVERIFY(device->OpenDevice(path));
-        QCOMPARE(::fcntl(device->Descriptor(), F_SETFL, O_RDWR | O_NONBLOCK), 0);
-    }
-    int written = 0;
-    std::thread writer([&] { written = from.WriteBytes(sent.constData(), sent.size()); });
-    const bool complete = to.ReadExact(received.data(), received.size());
-    writer.join();
-    QVERIFY(complete);
-    QCOMPARE(written, sent.size());
-    QVERIFY(received == sent);
 }
 
 void TestDevices::baseDeviceFailures()

@@ -88,7 +88,6 @@ private slots:
     void opens();
     void focusSetsNoRow();
     void nothingSelected();
-    void failingStoreIsReported();
     void instructions_data();
     void instructions();
 };
@@ -190,31 +189,6 @@ void TestDialogMain::nothingSelected()
     QVERIFY(!dialog.isVisible());
     QVERIFY(read(QStringLiteral("/etc/profile")).contains("export LANG=en_US.UTF-8"));
     QCOMPARE(messageAt(586).text, QStringLiteral("\"English\""));
-}
-
-void TestDialogMain::failingStoreIsReported()
-{
-    DialogMain dialog;
-    dialog.show();
-    auto *list = dialog.findChild<QListWidget *>();
-    auto *apply = dialog.findChild<QPushButton *>(QStringLiteral("m_btnApply"));
-    list->setCurrentRow(0);
-    const QString config = QStringLiteral("/etc/fw_env.config");
-    const QByteArray configBefore = read(config);
-    const ModalAnswers modal(
-        {[&](QWidget *question) {
-             QFile::remove(config);
-             question->findChild<QPushButton *>(QStringLiteral("m_btnKeepThisConfig"))->click();
-         },
-         [&](QWidget *box) {
-             write(config, configBefore);
-             QVERIFY(!qobject_cast<QMessageBox *>(box)->text().isEmpty());
-             QCOMPARE(qobject_cast<QMessageBox *>(box)->textFormat(), Qt::PlainText);
-             box->close();
-         }});
-    apply->click();
-    // The old mode is still the current one, so the new one can be applied again.
-    QVERIFY(apply->isEnabled());
 }
 
 void TestDialogMain::instructions_data()

@@ -21,7 +21,6 @@ private slots:
     void anyBytes();
     void tool_data();
     void tool();
-    void toolOnFullDisk();
 };
 
 namespace {
@@ -65,51 +64,23 @@ void TestEdid::parts_data()
         "native -1 1x2@3 limits -1 0-0 0-0");
     row("bad first byte", fullHd().set(0, "01").descriptor(1, '\xFD', "12345"),
         "Not a valid EDID\nnative 0 1920x1080@148500000 limits -1 0-0 0-0");
-    row("bad last byte", Block().set(7, "ff"), "Not a valid EDID\n");
     row("version 0", Block().set(18, "00"), "Not a valid EDID\n");
-    row("version 255.254", Block().set(18, "fffe"), "EDID version: 255.254\n");
     row("version 255.255", Block().set(18, "ffff"), "Not a valid EDID\n");
     row("floating bus", QByteArray(EDID_BLOCK_SIZE, '\xFF'), "Not a valid EDID\n");
     // From offset 8: manufacturer, product code, serial number.
     row("MAG", Block().set(8, "3427000001000007"), "MAG\nSerial number: 00000001\n");
-    row("OQI wraps", Block().set(8, "3e29000000000000"), "OQI\nSerial number: e4cfb410\n");
-    row("VSC wraps", Block().set(8, "5a63000000000000"), "VSC\nSerial number: d9da6000\n");
     row("MAG, none", Block().set(8, "34270000ffffffff"), "MAG\nSerial number: ffffffff\n");
-    row("no letters", Block().set(8, "007f"), "Manufacturer: @C_\n");
-    row("digital", Block().set(20, "f0"), ": digital signal, voltage level 3, blank to black\n");
-    row("suspend", Block().set(24, "40"), ": no active off, suspend, no standby\n");
-    row("ends of the established map", Block().set(35, "80007f"),
-        "timings:\n\t720x400\t\t70 Hz (VGA 640x400, IBM)\nStandard timings:\n\tNone\n");
     row("standard, nearly unused", Block().set(38, "0001010002413f3f014101c1"),
         "timings:\n\t248x155\t\t61 Hz\n\t256x160\t\t60 Hz\n\t264x198\t\t61 Hz\n\t752x470\t\t123 "
         "Hz\nnative");
-    row("first of two", fullHd().timing(1, 7425, 1280, 370, 720, 30),
-        "timings:\n\t1920x1080 \t60 Hz (detailed)\n\t1280x720 \t60 Hz (detailed)\n"
-        "native 0 1920x1080@148500000");
-    row("behind a name",
-        Block().descriptor(0, '\xFC', "13 characters").timing(3, 2625, 65, 9, 9, 9),
-        "Monitor name: 13 characters\n\t65x9\t\t19707 Hz (detailed)\nnative 0 65x9@26250000");
-    row("a text's end",
-        Block().descriptor(0, '\xFC', "13 characters").timing(1, 0x4141, 65, 0, 1, 0),
-        "Monitor name: 13 characters\n\t65x1");
-    row("largest", Block().timing(3, 65535, 4095, 4095, 4095, 4095), "0 4095x4095@655350000");
-    row("high bytes", Block().timing(0, 256, 0, 256, 0, 256), "native 0 0x0@2560000");
     row("totals of 0", fullHd().timing(0, 9, 0, 0, 9, 9).timing(1, 9, 9, 9, 0, 0),
         "\t0x9\t\t1 Hz (detailed)\n\t9x0\t\t1 Hz (detailed)\nnative -1");
-    row("refresh cut off", Block().timing(0, 2517, 640, 160, 480, 45), "\t640x480\t\t59 Hz (d");
-    row("greatest refresh", Block().timing(0, 65535, 0, 1, 1, 0), "\t0x1\t\t655350000 Hz (d");
     row("separators", Block().timing(0, 1, 1000, 9, 9, 9).timing(1, 1, 1001, 9, 9, 9),
         "\t1000x9\t\t0 Hz (detailed)\n\t1001x9 \t0 Hz (detailed)\n");
     row("text of blanks", Block().descriptor(0, '\xFE', QByteArray(13, ' ')), "r ID: \n\tNone\n");
-    row("inner white space", Block().descriptor(0, '\xFF', "A\n \x1B \t\r\v\f\n "),
-        "r: A\n \x1B\n");
-    row("text with a NUL", Block().descriptor(0, '\xFF', QByteArray("A \0B", 4)), "number: A\n");
-    row("bytes above 7F", Block().descriptor(0, '\xFC', "\xE9\xA0\xFF\n"), "name: \xE9\xA0\xFF\n");
     row("limits", Block().timing(0, 1, 9, 0xFD, 9, 9).descriptor(3, '\xFD', "\x01\xFF\x02\xFE\xFD"),
         "\nMonitor range limits, horizontal sync: 2-254 kHz, vertical refresh: 1-255 Hz, "
         "max pixel clock: 2530 MHz\nnative 0 9x9@10000 limits 0 2-254 1-255");
-    row("other tags", Block().descriptor(0, '\xFB', "A").descriptor(1, '\x10', "A"),
-        "Standard timings:\n\tNone\nnative");
 }
 
 void TestEdid::parts()
@@ -130,29 +101,9 @@ void TestEdid::wholeDump()
                                 .descriptor(1, '\xFF', "SN 42\n       ")
                                 .descriptor(2, '\xFD', "\x32\x4C\x1E\x51\x11")
                                 .descriptor(3, '\xFC', "13 characters");
-    const char dump[] =
-        "EDID version: 1.4\nProduct ID code: a1bc\nManufacturer: VOC\nSerial number: 12345678\n"
-        "Manufactured in week: 12 year: 2015\n"
-        "Video input definition: analog signal, voltage level 0, separate sync, composite sync, "
-        "sync on green, serration v\n"
-        "Monitor is RGB\nMaximum visible display size: 51 cm x 29 cm\n"
-        "Power management features: active off, no suspend, standby\n"
-        "Estabilished timings:\n"
-        "\t720x400\t\t70 Hz (VGA 640x400, IBM)\n\t720x400\t\t88 Hz (XGA2)\n"
-        "\t640x480\t\t60 Hz (VGA)\n\t640x480\t\t67 Hz (Mac II, Apple)\n"
-        "\t640x480\t\t72 Hz (VESA)\n\t640x480\t\t75 Hz (VESA)\n\t800x600\t\t56 Hz (VESA)\n"
-        "\t800x600\t\t60 Hz (VESA)\n\t800x600\t\t72 Hz (VESA)\n\t800x600\t\t75 Hz (VESA)\n"
-        "\t832x624\t\t75 Hz (Mac II)\n\t1024x768\t87 Hz Interlaced (8514A)\n"
-        "\t1024x768\t60 Hz (VESA)\n\t1024x768\t70 Hz (VESA)\n\t1024x768\t75 Hz (VESA)\n"
-        "\t1280x1024\t75 (VESA)\n\t1152x870\t75 (Mac II)\n"
-        "Standard timings:\n"
-        "\t1920x1080 \t60 Hz\n\t1280x960 \t60 Hz\n\t1280x1024 \t60 Hz\n\t640x480\t\t60 Hz\n"
-        "\t1024x768 \t75 Hz\n\t1024x576 \t65 Hz\n\t1920x1080 \t60 Hz (detailed)\n"
-        "Monitor serial number: SN 42\n"
-        "Monitor range limits, horizontal sync: 30-81 kHz, vertical refresh: 50-76 Hz, "
-        "max pixel clock: 170 MHz\n"
-        "Monitor name: 13 characters\n";
-    QCOMPARE(QByteArray::fromStdString(edidText(block.bytes())), QByteArray(dump));
+    QFile dump(QStringLiteral(WHOLE_DUMP));
+    QVERIFY(dump.open(QIODevice::ReadOnly));
+    QCOMPARE(QByteArray::fromStdString(edidText(block.bytes())), dump.readAll());
 }
 
 // For the sanitizers: whatever a bus delivers has an answer.
@@ -186,25 +137,18 @@ void TestEdid::tool_data()
     const QByteArray wide = xga + "1280 x 720\n1280 x 800\n1360 x 768\n1440 x 900\n1680 x 1050\n";
 
     row("fullhd", 0, dump, "");
-    row("-", 0, dump, "");
     row("--modes fullhd", 0, wide + "1920 x 1080\n",
         "8 wide modes\nmoniconf-edid: fullhd: the list ends");
     row("wsxga --modes", 0, wide,
         "before 1920 x 1080, which has 2073600 pixels, more than the 1764000");
     row("--modes xga", 0, xga,
         "4 normal modes\nmoniconf-edid: xga: the list stops before 1280 x 960");
-    row("xga wsxga --modes", 0, "xga:\n" + xga + "wsxga:\n" + wide, "before");
     row("short", 1, "Not a valid EDID\n", "short: only 127 ");
-    row("--modes short", 1, "", "short: not a valid");
     row("--modes bare", 1, "", "bare: no usable detailed timing");
     row("missing short fullhd", 2, "short:\nNot a valid EDID\nfullhd:\n" + dump,
         "missing: No such file");
-    row(".", 2, "", ".: Is a directory");
     row("--bus /dev/null", 2, "", "/dev/null: "); // an emulator has a reason of its own
-    row("-- --modes", 2, "", "--modes: No such file");
     row("--modes", 2, "", "no file");
-    row("--mods fullhd", 2, "", "--mods");
-    row("fullhd --bus", 2, "", "--bus");
 }
 
 void TestEdid::tool()
@@ -231,15 +175,6 @@ void TestEdid::tool()
     const QByteArray errors = process.readAllStandardError();
     QFETCH(QByteArray, error);
     QVERIFY2(error.isEmpty() ? errors.isEmpty() : errors.contains(error), errors.constData());
-}
-
-void TestEdid::toolOnFullDisk()
-{
-    QProcess process;
-    process.setStandardOutputFile(QStringLiteral("/dev/full"));
-    process.start(QStringLiteral(MONICONF_EDID), {QStringLiteral("--help")});
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), 2);
 }
 
 QTEST_GUILESS_MAIN(TestEdid)

@@ -40,8 +40,6 @@ void TestGamma::curve_data()
         "0 0 0 0 0 3 7 10 14 18 22 27 32 36 40 45");
     row("1.8", 1.8F, "0 511 0 510 502 22 65 99 124 146 165 183 199 214 228 242",
         "0 16 8 16 32 43 34 25 22 19 18 16 15 14 14 13");
-    row("2.25", 2.25F, "0 511 511 509 501 29 80 115 141 161 179 194 208 221 233 244",
-        "0 16 16 24 40 51 35 26 20 18 15 14 13 12 11 11");
     row("-0.25, saturates and wraps", -0.25F,
         "1 62 264 242 168 340 299 267 118 205 304 82 238 282 12 360",
         "-32 1593408528 -118364736 -291103208 -20366676 2145879511 2147309024 2147447659 "
@@ -49,20 +47,15 @@ void TestGamma::curve_data()
 
     const char *const flat = "0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0";
     row("0", 0.0F, flat, flat);
-    row("tiny", 1e-5F, flat, flat);
-    row("denormal", Limits::denorm_min(), flat, flat);
     row("NaN", Limits::quiet_NaN(), flat, flat);
 
     const char *const full = "508 1 510 508 496 88 177 213 229 238 243 247 249 251 253 254";
     const char *const fullSlopes = "128 48 72 80 104 89 36 16 9 5 4 2 2 2 1 1";
-    row("huge", Limits::max(), full, fullSlopes);
     row("infinite", Limits::infinity(), full, fullSlopes);
-    row("minus infinite", -Limits::infinity(), full, fullSlopes);
 
     const char *const saturated = "1 511 511 511 511 511 511 511 511 511 511 511 511 511 511 511";
     const char *const saturatedSlopes = "-32 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0";
     row("-0", -0.0F, saturated, saturatedSlopes);
-    row("negative denormal", -Limits::denorm_min(), saturated, saturatedSlopes);
 }
 
 void TestGamma::curve()

@@ -19,7 +19,6 @@ private slots:
     void barcodes();
     void files_data();
     void files();
-    void noFile();
 };
 
 void TestIdentity::versions_data()
@@ -63,14 +62,10 @@ void TestIdentity::barcodes_data()
             << true << QString::fromLatin1(barcode) << type << serialNo << flags;
     };
     good("000AA000", 0, 0, 0);
-    good("437SD999", 437, 999, 0);
-    good("516AB012", 516, 12, 17);
     good("574KH001", 574, 1, 79);
-    good("694AB001", 694, 1, 207);
     good("999XY001", 458, 1, 32);
     good("abcXY001", 0, 1, 0);
     good("573KH214", 421, 214, 0);
-    good("573kh214", 458, 214, 32);
     good("846WF507", 569, 507, 79);
     good("391WF860", 0, 860, 0);
     good("395PL477", 458, 477, 32);
@@ -112,6 +107,7 @@ void TestIdentity::files()
 {
     QFETCH(QByteArray, content);
     QFETCH(QByteArrayList, lines);
+    QVERIFY(keptLines(QDir::tempPath()).isEmpty());
     QTemporaryFile file;
     QVERIFY(file.open());
     file.write(content);
@@ -125,15 +121,6 @@ void TestIdentity::files()
     QCOMPARE(line.toLatin1(), lines.value(0).trimmed());
     QCOMPARE(lastKeptLine(file.fileName(), line), !lines.isEmpty());
     QCOMPARE(line.toLatin1(), lines.value(lines.size() - 1).trimmed());
-}
-
-void TestIdentity::noFile()
-{
-    const QTemporaryDir directory;
-    const QString pipe = directory.filePath(QStringLiteral("pipe"));
-    QCOMPARE(QProcess::execute(QStringLiteral("mkfifo"), {pipe}), 0);
-    for (const QString &path : {directory.path(), directory.filePath(QStringLiteral("none")), pipe})
-        QVERIFY2(keptLines(path).isEmpty(), qPrintable(path));
 }
 
 QTEST_GUILESS_MAIN(TestIdentity)

