@@ -47,17 +47,8 @@ void DialogPreference::buttonBox_clicked(QAbstractButton *button)
     if (which != QDialogButtonBox::Ok)
         return;
 
-    // The script links the first and unlinks the rest.
-    const QString standard = QStringLiteral("vexastd.desktop");
-    const QString otp = QStringLiteral("vxotp.desktop");
-    QStringList desktopFiles;
-    if (ui->m_rdoVexastd->isChecked())
-        desktopFiles << standard << otp;
-    else if (ui->m_rdoVxotp->isChecked())
-        desktopFiles << otp << standard;
-
     const ScriptResult result =
-        runEmbeddedScript(QStringLiteral("autobootapp.sh"), desktopFiles, OX_LOG_HERE);
+        runEmbeddedScript(QStringLiteral("autobootapp.sh"), desktopFiles(), OX_LOG_HERE);
     if (result == ScriptResult::CopyFailed) {
         reject();
         return;
@@ -74,6 +65,17 @@ void DialogPreference::buttonBox_clicked(QAbstractButton *button)
     }
     SavePreference();
     accept();
+}
+
+QStringList DialogPreference::desktopFiles() const
+{
+    const QString standard = QStringLiteral("vexastd.desktop");
+    const QString otp = QStringLiteral("vxotp.desktop");
+    if (ui->m_rdoVexastd->isChecked())
+        return {standard, otp};
+    if (ui->m_rdoVxotp->isChecked())
+        return {otp, standard};
+    return {};
 }
 
 void DialogPreference::LoadPreference()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QStringList>
 
 #include <memory>
 
@@ -26,6 +27,8 @@ private slots:
     void buttonBox_clicked(QAbstractButton *button);
 
 private:
+    // The chosen application's first: the script links the first and unlinks the rest.
+    QStringList desktopFiles() const;
     void LoadPreference();
     void SavePreference();
 
