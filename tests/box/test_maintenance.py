@@ -44,6 +44,12 @@ class Maintenance(unittest.TestCase):
             text, type='debug', file='dialogmain', line=str(line), category='default',
             function=f'DialogMain::{function}'), f'log line {line}')
 
+    def test_about(self):
+        keys('F1')
+        wait_for_window('About...')
+        keys('Return')
+        wait_until_gone('About...')
+
     def test_clock(self):
         Path('/tmp/calclock.sh').write_text('stale')
         click(self.window, *CLOCK, times=2)
