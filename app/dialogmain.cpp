@@ -3,9 +3,9 @@
 #define OX_LOG_FIXED_POSITIONS 106, 111, 124, 135, 555, 567, 571, 579, 586, 594
 #include "app/dialogmain.h"
 
-#include "app/errortext.h"
 #include "app/instruction.h"
-#include "app/profile.h"
+#include "app/shellprofile.h"
+#include "app/shortenedmessage.h"
 #include "app/testapplication.h"
 #include "display/dialogconfirm.h"
 #include "display/dialoggamma.h"
@@ -13,7 +13,7 @@
 #include "display/i2cdevice.h"
 #include "display/modetext.h"
 #include "display/monitor/edid.h"
-#include "display/monitor/i2ctransfer.h"
+#include "display/monitor/edidtransfer.h"
 #include "display/monitor/modes.h"
 #include "display/screenkeeper.h"
 #include "display/vgai2cswitch.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Shows what a monitor says of itself and which modes the tool would offer for it.
 #include "display/monitor/edid.h"
-#include "display/monitor/i2ctransfer.h"
+#include "display/monitor/edidtransfer.h"
 #include "display/monitor/modes.h"
 
 #include <algorithm>

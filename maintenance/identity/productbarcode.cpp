@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "maintenance/identity/productbarcode.h"
 
-#include "maintenance/identity/keptlines.h"
+#include "maintenance/identity/nonemptylines.h"
 
 #include <QFile>
 
@@ -69,7 +69,7 @@ void setProductionDate(QDate &date, const QString &family)
 
 bool ProductBarcode::ReadBarcode(T_Barcode &barcode)
 {
-    return DecodeBarcode(barcode, keptLines(QStringLiteral("/etc/orvex/barcode.txt")));
+    return DecodeBarcode(barcode, nonEmptyLines(QStringLiteral("/etc/orvex/barcode.txt")));
 }
 
 bool ProductBarcode::DecodeBarcode(T_Barcode &barcode, const QStringList &lines)
@@ -101,10 +101,10 @@ bool ProductBarcode::ReadRootfsVersion(QString &version)
 {
     // The first of the two that exists counts, whatever it holds.
     const QString own = QStringLiteral("/etc/orvex/version");
-    return firstKeptLine(QFile::exists(own) ? own : QStringLiteral("/etc/version"), version);
+    return firstNonEmptyLine(QFile::exists(own) ? own : QStringLiteral("/etc/version"), version);
 }
 
 bool ProductBarcode::ReadRootfsPatch(QString &patch)
 {
-    return lastKeptLine(QStringLiteral("/etc/orvex/patches_version.txt"), patch);
+    return lastNonEmptyLine(QStringLiteral("/etc/orvex/patches_version.txt"), patch);
 }

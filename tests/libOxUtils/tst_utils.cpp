@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "libOxUtils/utils/utils.h"
-#include "tests/logcapture.h"
+#include "tests/support/logcapture.h"
 
 #include <QSemaphore>
 #include <QTemporaryDir>

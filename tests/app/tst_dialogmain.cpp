@@ -2,8 +2,8 @@
 // The main window on the box's own files and devices: runs inside the simulated box only.
 #include "app/dialogmain.h"
 #include "app/modalfocusguard.h"
-#include "tests/logcapture.h"
-#include "tests/modal.h"
+#include "tests/support/logcapture.h"
+#include "tests/support/modal.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "maintenance/identity/keptlines.h"
+#include "maintenance/identity/nonemptylines.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
 
-QStringList keptLines(const QString &path)
+QStringList nonEmptyLines(const QString &path)
 {
     QStringList lines;
     // A pipe could keep the window waiting, and a device need not end.
@@ -23,16 +23,16 @@ QStringList keptLines(const QString &path)
     return lines;
 }
 
-bool firstKeptLine(const QString &path, QString &line)
+bool firstNonEmptyLine(const QString &path, QString &line)
 {
-    const QStringList lines = keptLines(path);
+    const QStringList lines = nonEmptyLines(path);
     line = lines.isEmpty() ? QString() : lines.first().trimmed();
     return !lines.isEmpty();
 }
 
-bool lastKeptLine(const QString &path, QString &line)
+bool lastNonEmptyLine(const QString &path, QString &line)
 {
-    const QStringList lines = keptLines(path);
+    const QStringList lines = nonEmptyLines(path);
     line = lines.isEmpty() ? QString() : lines.last().trimmed();
     return !lines.isEmpty();
 }

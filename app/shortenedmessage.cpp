@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/errortext.h"
+#include "app/shortenedmessage.h"
 
 namespace {
 

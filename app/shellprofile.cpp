@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/profile.h"
+#include "app/shellprofile.h"
 
 #include <QFile>
 #include <QFileInfo>

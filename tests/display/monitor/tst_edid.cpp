@@ -2,7 +2,7 @@
 // The EDID decoder, and moniconf-edid on top of it.
 #include "display/monitor/edid.h"
 #include "display/monitor/modes.h"
-#include "tests/edidblock.h"
+#include "tests/support/edidblock.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

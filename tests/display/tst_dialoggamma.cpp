@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/dialoggamma.h"
 
-#include "tests/modal.h"
+#include "tests/support/modal.h"
 
 #include <QLineEdit>
 #include <QMessageBox>

@@ -13,7 +13,7 @@
 
 using Limits = std::numeric_limits<float>;
 
-class TestGamma : public QObject
+class TestGammaCurve : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ private slots:
     void anyFloat();
 };
 
-void TestGamma::curve_data()
+void TestGammaCurve::curve_data()
 {
     QTest::addColumn<float>("gamma");
     QTest::addColumn<QString>("constk");
@@ -58,7 +58,7 @@ void TestGamma::curve_data()
     row("-0", -0.0F, saturated, saturatedSlopes);
 }
 
-void TestGamma::curve()
+void TestGammaCurve::curve()
 {
     QFETCH(float, gamma);
     const GammaCurve result = gammaCurve(gamma);
@@ -74,7 +74,7 @@ void TestGamma::curve()
 }
 
 // For the sanitizers, over the whole range of bit patterns.
-void TestGamma::anyFloat()
+void TestGammaCurve::anyFloat()
 {
     constexpr quint32 stride = 65537;
     qint32 offsetBits = 0;
@@ -88,5 +88,5 @@ void TestGamma::anyFloat()
     QCOMPARE(offsetBits, 0x1ff);
 }
 
-QTEST_GUILESS_MAIN(TestGamma)
-#include "tst_gamma.moc"
+QTEST_GUILESS_MAIN(TestGammaCurve)
+#include "tst_gammacurve.moc"

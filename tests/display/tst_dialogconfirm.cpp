@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QtTest>
 
-class TestConfirm : public QObject
+class TestDialogConfirm : public QObject
 {
     Q_OBJECT
 
@@ -12,7 +12,7 @@ private slots:
     void countsDownAndRejects();
 };
 
-void TestConfirm::countsDownAndRejects()
+void TestDialogConfirm::countsDownAndRejects()
 {
     DialogConfirm dialog(nullptr);
     const QSignalSpy rejected(&dialog, &QDialog::rejected);
@@ -30,5 +30,5 @@ void TestConfirm::countsDownAndRejects()
     QCOMPARE(rejected.count(), 1);
 }
 
-QTEST_MAIN(TestConfirm)
-#include "tst_confirm.moc"
+QTEST_MAIN(TestDialogConfirm)
+#include "tst_dialogconfirm.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "display/monitor/i2ctransfer.h"
+#include "display/monitor/edidtransfer.h"
 
 #include <linux/i2c-dev.h>
 #include <linux/i2c.h>

@@ -2,7 +2,7 @@
 #include "display/fbdevice.h"
 #include "display/i2cdevice.h"
 
-#include "tests/logcapture.h"
+#include "tests/support/logcapture.h"
 
 #include <QTemporaryDir>
 #include <QtTest>

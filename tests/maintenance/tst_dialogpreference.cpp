@@ -1,27 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "app/globalvars.h"
 #include "maintenance/dialogpreference.h"
-#include "maintenance/embeddedscript.h"
-#include "tests/logcapture.h"
-#include "tests/modal.h"
+#include "tests/support/modal.h"
 
-#include <QCryptographicHash>
 #include <QFile>
 #include <QRadioButton>
 #include <QTemporaryDir>
 
-class TestMaintenance : public QObject
+class TestDialogPreference : public QObject
 {
     Q_OBJECT
 
 private slots:
     void preference_data();
     void preference();
-    void scripts();
-    void scriptWithoutResource();
 };
 
-void TestMaintenance::preference_data()
+void TestDialogPreference::preference_data()
 {
     QTest::addColumn<bool>("otp");
     QTest::newRow("") << false; // no file
@@ -33,7 +28,7 @@ void TestMaintenance::preference_data()
     QTest::newRow("\xff[\n=]\r") << false;
 }
 
-void TestMaintenance::preference()
+void TestDialogPreference::preference()
 {
     QFETCH(bool, otp);
     const QByteArray ini = QTest::currentDataTag();
@@ -56,28 +51,5 @@ void TestMaintenance::preference()
     QCOMPARE(file.exists(), !ini.isEmpty());
 }
 
-void TestMaintenance::scripts()
-{
-    const auto sha1 = [](const char *name) {
-        QFile script(QStringLiteral("://") + QLatin1String(name));
-        script.open(QIODevice::ReadOnly);
-        return QCryptographicHash::hash(script.readAll(), QCryptographicHash::Sha1).toHex();
-    };
-    QCOMPARE(sha1("calclock.sh"), QByteArray("bb5ff0810ac0bde7d464f8304816755f5fcf87a3"));
-    QCOMPARE(sha1("autobootapp.sh"), QByteArray("1bf6ba42aff078ab6ae27aa7ddbe3523b5428628"));
-}
-
-void TestMaintenance::scriptWithoutResource()
-{
-    const LogCapture log;
-    const QString name =
-        QStringLiteral("moniconf-test-%1.sh").arg(QCoreApplication::applicationPid());
-    const oxlog::Site caller{"here", 7, "void caller()"};
-    QCOMPARE(runEmbeddedScript(name, {}, caller), ScriptResult::CopyFailed);
-    QCOMPARE(LogCapture::texts(QStringLiteral("here")),
-             QStringList(QStringLiteral("C Copying %1 failed.").arg(name)));
-    QCOMPARE(LogCapture::messages().last().function, QStringLiteral("void caller()"));
-}
-
-QTEST_MAIN(TestMaintenance)
-#include "tst_maintenance.moc"
+QTEST_MAIN(TestDialogPreference)
+#include "tst_dialogpreference.moc"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "libOxUtils/fileio/conffile.h"
-#include "tests/logcapture.h"
+#include "tests/support/logcapture.h"
 
 #include <QTemporaryDir>
 #include <QTextCodec>

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "app/shellprofile.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestShellProfile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void localeLines_data();
+    void localeLines();
+    void missingProfileStaysMissing();
+};
+
+void TestShellProfile::localeLines_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after"); // for Chinese
+
+    const QByteArray zh = "export LANG=zh_CN.UTF-8";
+    QTest::newRow("middle") << QByteArray("a\nexport LANG=en_US.UTF-8\nb\n")
+                            << "a\n" + zh + "\nb\n";
+    QTest::newRow("none") << QByteArray("a\n") << "a\n" + zh;
+    QTest::newRow("none, joined to an unended line") << QByteArray("a") << "a" + zh;
+    QTest::newRow("empty") << QByteArray() << zh;
+    QTest::newRow("a longer line keeps its tail")
+        << QByteArray("  export LANG=en_US.UTF-8 # set\nb\n") << zh + "-8 # set\nb\n";
+    QTest::newRow("a shorter comment runs into the next line")
+        << QByteArray("#export LANG=C\n0123456789\n") << zh + "89\n";
+    QTest::newRow("CRLF") << QByteArray("a\r\nexport LANG=en_US.UTF-8\r\nb\r\n")
+                          << "a\r\n" + zh + "\r\nb\r\n";
+    QTest::newRow("bytes that are no text")
+        << QByteArray("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14)
+        << QByteArray("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14) + zh;
+    const QByteArray large = QByteArray(2 * 1024 * 1024, 'x').replace(99, 1, "\n");
+    QTest::newRow("beyond any buffer") << large + "\nexport LANG=en_US.UTF-8\n"
+                                       << large + "\n" + zh + "\n";
+}
+
+void TestShellProfile::localeLines()
+{
+    QFETCH(QByteArray, before);
+    const QTemporaryDir directory;
+    QFile file(directory.filePath(QStringLiteral("profile")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(before);
+    file.close();
+
+    QVERIFY(writeLocaleLine(file.fileName(), localeLine(QStringLiteral("Chinese"))));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QTEST(file.readAll(), "after");
+}
+
+void TestShellProfile::missingProfileStaysMissing()
+{
+    const QTemporaryDir directory;
+    const QString missing = directory.filePath(QStringLiteral("profile"));
+    QVERIFY(!writeLocaleLine(missing, "x"));
+    QVERIFY(!QFile::exists(missing));
+    QVERIFY(!writeLocaleLine(directory.path(), "x"));
+    QCOMPARE(localeLine(QStringLiteral("chinese")), QByteArray("export LANG=en_US.UTF-8"));
+}
+
+QTEST_GUILESS_MAIN(TestShellProfile)
+#include "tst_shellprofile.moc"
