@@ -1,100 +1,61 @@
 // SPDX-License-Identifier: MIT
 #define OX_LOG_FILE "dialogmain"
-#define OX_LOG_FIXED_POSITIONS 106, 111, 124, 135, 555, 567, 571, 579, 586, 594
+#define OX_LOG_FIXED_POSITIONS(position)                                                           \
+    position(GAMMA_CHOSEN, 106) position(GAMMA_FAILED, 111) position(TERMINAL_ENTRY_MISSING, 124)  \
+        position(INSTRUCTION_UNKNOWN, 135) position(UPGRADING_SELF, 555)                           \
+            position(UPGRADING_STANDARD_APPLICATION, 567) position(UPGRADING_OTP_APPLICATION, 571) \
+                position(UPGRADING_FILE_SYSTEM, 579) position(LANGUAGE_CHOSEN, 586)                \
+                    position(PROFILE_NOT_OPENED, 594)
 #include "app/dialogmain.h"
 
-#include "app/instruction.h"
 #include "app/shellprofile.h"
 #include "app/shortenedmessage.h"
+#include "app/terminalentry.h"
 #include "app/testapplication.h"
+#include "display/boxmode.h"
 #include "display/dialogconfirm.h"
 #include "display/dialoggamma.h"
-#include "display/fbdevice.h"
-#include "display/i2cdevice.h"
+#include "display/edidfetch.h"
 #include "display/modetext.h"
-#include "display/monitor/edid.h"
-#include "display/monitor/edidtransfer.h"
-#include "display/monitor/modes.h"
+#include "display/screengamma.h"
 #include "display/screenkeeper.h"
-#include "display/vgai2cswitch.h"
-#include "libOxUtils/fileio/conffile.h"
 #include "libOxUtils/utils/commandline.h"
 #include "libOxUtils/utils/log.h"
-#include "libOxUtils/utils/utils.h"
-#include "libOxUtils/utils/waitcursor.h"
 #include "maintenance/dialogabout.h"
 #include "maintenance/dialogclock.h"
 #include "maintenance/dialogfantempparam.h"
 #include "maintenance/dialogpreference.h"
-#include "maintenance/embeddedscript.h"
-#include "maintenance/fanthresholds.h"
 #include "maintenance/identity/productbarcode.h"
 #include "ui_dialogmain.h"
 
 #include <QContextMenuEvent>
 #include <QDateTime>
-#include <QFile>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTimer>
 
-#include <cstdlib>
 #include <iterator>
 
 namespace {
 
-// The product capability flag of boxes that carry the OTP test application.
-constexpr quint32 OTP_APPLICATION_FLAG = 0x08;
-
 constexpr int CLOCK_TICK_MS = 1000;
-constexpr int COMMAND_START_MS = 1000;
-constexpr int COMMAND_FINISH_MS = 5000;
-
-bool runCommand(const QString &command, QString &output, QString &error)
-{
-    const WaitCursor waiting;
-    return Utils::ExecShellCommand(command, output, error, COMMAND_START_MS, COMMAND_FINISH_MS);
-}
-
-QString dateTimeText(const QDateTime &dateTime)
-{
-    return dateTime.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-}
-
-bool isSameSize(const DialogMain::T_Resolution &a, const DialogMain::T_Resolution &b)
-{
-    return a.width == b.width && a.height == b.height;
-}
-
-QStringList itemsOf(const std::vector<T_ResolutionEntry> &entries)
-{
-    QStringList items;
-    for (const T_ResolutionEntry &entry : entries)
-        items << modeItem(entry.width, entry.height);
-    return items;
-}
-
-// The box may be switched off right after a change of mode.
-void syncFileSystems()
-{
-    const WaitCursor waiting;
-    const int ignored = std::system("sync");
-    Q_UNUSED(ignored)
-}
-
-bool setScreenGamma(float gamma)
-{
-    FbDevice *const framebuffer = FbDevice::Instance();
-    // Not checked: without an open device the next step fails.
-    framebuffer->OpenDevice(FbDevice::DEV_NAME);
-    const bool isSet = framebuffer->SetGamma(gamma);
-    framebuffer->CloseDevice();
-    return isSet;
-}
 
 } // namespace
+
+const DialogMain::MenuEntry DialogMain::MENU[] = {
+    {QT_TR_NOOP("Upgrade Application"), &DialogMain::m_actUpgradeApp,
+     &DialogMain::actionUpgradeApp_triggered},
+    {QT_TR_NOOP("Upgrade File System"), &DialogMain::m_actUpgradeFs,
+     &DialogMain::actionUpgradeFs_triggered},
+    {QT_TR_NOOP("Preference"), &DialogMain::m_actPreference,
+     &DialogMain::actionPreference_triggered},
+    {QT_TR_NOOP("Factory Reset"), &DialogMain::m_actFactoryReset,
+     &DialogMain::actionFactoryReset_triggered},
+    {QT_TR_NOOP("Fan Setting"), &DialogMain::m_actFanSetting,
+     &DialogMain::actionFanSetting_triggered},
+};
 
 DialogMain::DialogMain(QWidget *parent)
     : QDialog(parent)
@@ -122,23 +83,16 @@ DialogMain::~DialogMain()
 void DialogMain::createMenu()
 {
     m_menu = new QMenu(this);
-    m_actUpgradeApp = new QAction(tr("Upgrade Application"), this);
-    m_actUpgradeFs = new QAction(tr("Upgrade File System"), this);
-    m_actPreference = new QAction(tr("Preference"), this);
-    m_actFactoryReset = new QAction(tr("Factory Reset"), this);
-    m_actFanSetting = new QAction(tr("Fan Setting"), this);
-    m_menu->addActions(
-        {m_actUpgradeApp, m_actUpgradeFs, m_actPreference, m_actFactoryReset, m_actFanSetting});
+    for (const MenuEntry &entry : MENU) {
+        this->*entry.action = new QAction(tr(entry.text), this);
+        m_menu->addAction(this->*entry.action);
+    }
 }
 
 void DialogMain::initConnections()
 {
-    const auto triggered = &QAction::triggered;
-    connect(m_actUpgradeApp, triggered, this, &DialogMain::actionUpgradeApp_triggered);
-    connect(m_actUpgradeFs, triggered, this, &DialogMain::actionUpgradeFs_triggered);
-    connect(m_actPreference, triggered, this, &DialogMain::actionPreference_triggered);
-    connect(m_actFactoryReset, triggered, this, &DialogMain::actionFactoryReset_triggered);
-    connect(m_actFanSetting, triggered, this, &DialogMain::actionFanSetting_triggered);
+    for (const MenuEntry &entry : MENU)
+        connect(this->*entry.action, &QAction::triggered, this, entry.slot);
     connect(m_timer, &QTimer::timeout, this, &DialogMain::secTimer_timeout);
     connect(ui->m_btnApply, &QPushButton::clicked, this, &DialogMain::btnApply_clicked);
     connect(ui->m_btnOK, &QPushButton::clicked, this, &DialogMain::btnOK_clicked);
@@ -162,7 +116,7 @@ void DialogMain::readProductFlags()
 
 bool DialogMain::hasOtpApplication() const
 {
-    return (m_productFlags & OTP_APPLICATION_FLAG) != 0;
+    return (m_productFlags & ProductBarcode::OTP_APPLICATION) != 0;
 }
 
 void DialogMain::showError(const QString &text)
@@ -184,9 +138,9 @@ void DialogMain::keyPressEvent(QKeyEvent *event)
     else if (event->key() == Qt::Key_F12)
         startUpgraderSelf();
     else if (event->key() == Qt::Key_F10)
-        adjustGamma(OX_LOG_AT(106), OX_LOG_AT(111));
+        adjustGamma(OX_LOG_AT(GAMMA_CHOSEN), OX_LOG_AT(GAMMA_FAILED));
     else if (event->key() == Qt::Key_E && event->modifiers().testFlag(Qt::ControlModifier))
-        promptForInstruction(OX_LOG_AT(124), OX_LOG_AT(135));
+        promptForInstruction(OX_LOG_AT(TERMINAL_ENTRY_MISSING), OX_LOG_AT(INSTRUCTION_UNKNOWN));
     else
         QDialog::keyPressEvent(event);
 }
@@ -219,26 +173,18 @@ void DialogMain::promptForInstruction(const oxlog::Site &loadSite, const oxlog::
     if (typed.isEmpty())
         return;
 
-    // Without the entry the text is not looked at, and nothing is shown.
-    ConfFile entry(QStringLiteral("/usr/share/applications/matchbox-terminal.desktop"));
-    if (entry.LoadConf())
-        followInstruction(typed, entry, unknownSite);
-    else
+    switch (followInstruction(typed)) {
+    case InstructionResult::NoEntry:
         oxlog::critical(loadSite, QStringLiteral("Loading configure file failed."));
-}
-
-void DialogMain::followInstruction(const QString &typed, ConfFile &entry,
-                                   const oxlog::Site &unknownSite)
-{
-    const QString noDisplay = noDisplayForInstruction(typed);
-    if (noDisplay.isNull()) {
+        break;
+    case InstructionResult::Unknown:
         //: The misspelling is part of the interface: the English catalogue keeps it.
         showError(tr("Unkown instruction!"));
         oxlog::debug(unknownSite, QStringLiteral("Unkown instruction: '%1'!").arg(typed));
-        return;
+        break;
+    case InstructionResult::Followed:
+        break;
     }
-    entry.SetValue(QStringLiteral("NoDisplay"), noDisplay);
-    entry.SaveConf();
 }
 
 void DialogMain::actionUpgradeApp_triggered()
@@ -280,29 +226,16 @@ void DialogMain::actionFactoryReset_triggered()
 
 void DialogMain::actionFanSetting_triggered()
 {
-    ConfFile conf(QStringLiteral("/etc/fand.conf"));
-    if (!conf.LoadConf())
-        return;
-
-    int lower = 0;
-    int upper = 0;
-    readFanThresholds(conf, lower, upper);
-    DialogFanTempParam dialog(this);
-    dialog.SetThresholds(lower, upper);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-
-    dialog.GetThresholds(lower, upper);
-    setFanThresholds(conf, lower, upper);
-    conf.SaveConf();
     // Shown after every acceptance: the log has the reason when the save failed.
-    QMessageBox::information(this, tr("Information"),
-                             tr("Parameters have been changed, reboot to take effect."));
+    if (DialogFanTempParam::Run(this) == Outcome::Done)
+        QMessageBox::information(this, tr("Information"),
+                                 tr("Parameters have been changed, reboot to take effect."));
 }
 
 void DialogMain::secTimer_timeout()
 {
-    ui->m_lblDateTime->setText(dateTimeText(QDateTime::currentDateTime()));
+    const QDateTime now = QDateTime::currentDateTime();
+    ui->m_lblDateTime->setText(now.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
 }
 
 void DialogMain::btnApply_clicked(bool /*checked*/)
@@ -312,12 +245,12 @@ void DialogMain::btnApply_clicked(bool /*checked*/)
         return;
 
     // The new mode comes first and the question after it, so that the user judges what can be seen.
-    switchScreenTo(wanted);
+    switchScreen(wanted);
     DialogConfirm dialog(this);
     if (dialog.exec() == QDialog::Accepted)
-        storeMode(wanted);
+        keep(wanted);
     else
-        switchScreenTo(m_curResolution);
+        switchScreen(m_curResolution);
 }
 
 void DialogMain::btnOK_clicked(bool /*checked*/)
@@ -343,20 +276,7 @@ void DialogMain::listResolution_currentTextChanged(const QString &currentText)
 
 void DialogMain::lblDateTime_mouseDoubleClicked()
 {
-    // The clock is set to what the dialog shows: the seconds that pass while it is open are lost.
-    QDateTime dateTime = QDateTime::currentDateTime();
-    DialogClock dialog(this);
-    dialog.SetDateTime(dateTime);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    dialog.GetDateTime(dateTime);
-
-    const ScriptResult result =
-        runEmbeddedScript(QStringLiteral("calclock.sh"), {dateTimeText(dateTime)}, OX_LOG_HERE);
-    // A failed copy is told to the log alone, on purpose, and leaves nothing to clear away.
-    if (result != ScriptResult::CopyFailed)
-        QFile::remove(QStringLiteral("/tmp/calclock.sh"));
-    if (result == ScriptResult::RunFailed)
+    if (DialogClock::Run(this, OX_LOG_HERE) == Outcome::Failed)
         showError(tr("Setting date time failed."));
 }
 
@@ -379,8 +299,7 @@ bool DialogMain::parseItem(T_Resolution &resolution, const QString &item)
 bool DialogMain::parseDispInfo2Resolution(T_Resolution &resolution, const QString &text)
 {
     resolution.text = text;
-    const ModeTextResult result =
-        parseModeText(text, resolution.width, resolution.height, resolution.refreshRate);
+    const ModeTextResult result = parseModeText(text, resolution);
     if (result != ModeTextResult::NoWidth) {
         oxlog::debug(OX_LOG_HERE, QString::asprintf("%dx%d@%d", static_cast<int>(resolution.width),
                                                     static_cast<int>(resolution.height),
@@ -391,52 +310,38 @@ bool DialogMain::parseDispInfo2Resolution(T_Resolution &resolution, const QStrin
 
 int DialogMain::get_cur_display_info(T_Resolution &resolution)
 {
-    QString output;
-    QString error;
-    if (!runCommand(QStringLiteral("fw_printenv -n display"), output, error)) {
-        oxlog::critical(OX_LOG_HERE, oxlog::quoted(error));
+    QString text;
+    if (!readStoredMode(text, OX_LOG_HERE))
         return -1;
-    }
-    return parseDispInfo2Resolution(resolution, output.trimmed()) ? 0 : -1;
+    return parseDispInfo2Resolution(resolution, text) ? 0 : -1;
 }
 
 int DialogMain::readEdid(unsigned char *edid)
 {
-    I2CDevice device;
-    for (const QString &bus : {I2CDevice::VGA_I2C_FILE_NAME, I2CDevice::HDMI_I2C_FILE_NAME}) {
-        if (!device.OpenDevice(bus))
-            continue;
-        const bool valid =
-            readEdidBlock(device.Descriptor(), EDID_SLAVE_ADDRESS, edid, EDID_BLOCK_SIZE) == 0 &&
-            checkEdidHeader(edid) == 0;
-        device.CloseDevice();
-        if (valid)
-            return 0;
-    }
-    return -1;
+    return fetchEdid(edid);
 }
 
-int DialogMain::readEdidThroughVgaSwitch(unsigned char *edid)
+int DialogMain::readEdidOverSwitchedLines(unsigned char *edid)
 {
-    const VgaI2cSwitch vga;
+    const DdcLines ledToTheirBuses;
     return readEdid(edid);
 }
 
 void DialogMain::listAllResolutions()
 {
-    showItems(itemsOf({std::begin(ALL_RESOLUTIONS), std::end(ALL_RESOLUTIONS)}));
+    showItems(modeItems({std::begin(ALL_RESOLUTIONS), std::end(ALL_RESOLUTIONS)}));
 }
 
 void DialogMain::listMonitorResolutions()
 {
     unsigned char edid[EDID_BLOCK_SIZE] = {};
     T_NativeTiming native;
-    if (readEdidThroughVgaSwitch(edid) != 0) {
+    if (readEdidOverSwitchedLines(edid) != 0) {
         showError(tr("Cannot read edid information."));
     } else if (getNativeTiming(edid, native) != 0) {
         showError(tr("Parsing edid information failed."));
     } else {
-        const QStringList items = itemsOf(monitorResolutions(native.width, native.height));
+        const QStringList items = modeItems(monitorModes(native).entries);
         showItems(items);
         selectCurrentResolution(items);
     }
@@ -454,8 +359,7 @@ void DialogMain::selectCurrentResolution(const QStringList &items)
         showError(tr("Getting current display information failed."));
         return;
     }
-    const QString current = modeItem(m_curResolution.width, m_curResolution.height);
-    ui->m_listResolution->setCurrentRow(items.indexOf(current));
+    ui->m_listResolution->setCurrentRow(items.indexOf(modeItem(m_curResolution)));
 }
 
 QString DialogMain::selectedItem() const
@@ -464,48 +368,39 @@ QString DialogMain::selectedItem() const
     return item ? item->text() : QString();
 }
 
-void DialogMain::switchScreenTo(const T_Resolution &resolution)
+void DialogMain::keep(const T_Resolution &resolution)
 {
-    // Not checked: whether the screen can be seen is for the user to say.
-    QString output;
     QString error;
-    runCommand(switchScreenCommand(resolution.width, resolution.height, resolution.refreshRate),
-               output, error);
-}
-
-void DialogMain::storeMode(const T_Resolution &resolution)
-{
-    QString output;
-    QString error;
-    if (!runCommand(storeModeCommand(resolution.width, resolution.height, resolution.refreshRate),
-                    output, error)) {
+    if (!storeMode(resolution, error)) {
         showError(error);
         return;
     }
-    syncFileSystems();
     m_curResolution = resolution;
     listResolution_currentTextChanged(selectedItem());
 }
 
 void DialogMain::startUpgraderSelf()
 {
-    oxlog::debug(OX_LOG_AT(555), QStringLiteral("Starting upgrader self..."));
+    oxlog::debug(OX_LOG_AT(UPGRADING_SELF), QStringLiteral("Starting upgrader self..."));
     startDetachedCommand(upgradeSelfCommand());
 }
 
 void DialogMain::startUpgraderApp(bool standard)
 {
     if (standard)
-        oxlog::debug(OX_LOG_AT(567), QStringLiteral("Starting upgrader vexastd..."));
+        oxlog::debug(OX_LOG_AT(UPGRADING_STANDARD_APPLICATION),
+                     QStringLiteral("Starting upgrader vexastd..."));
     else
-        oxlog::debug(OX_LOG_AT(571), QStringLiteral("Starting upgrader vxotp..."));
+        oxlog::debug(OX_LOG_AT(UPGRADING_OTP_APPLICATION),
+                     QStringLiteral("Starting upgrader vxotp..."));
     startDetachedCommand(
         upgradeApplicationCommand(standard ? standardApplication() : otpApplication()));
 }
 
 void DialogMain::startUpgraderFs()
 {
-    oxlog::debug(OX_LOG_AT(579), QStringLiteral("Starting upgrader file system..."));
+    oxlog::debug(OX_LOG_AT(UPGRADING_FILE_SYSTEM),
+                 QStringLiteral("Starting upgrader file system..."));
     startDetachedCommand(upgradeFileSystemCommand());
 }
 
@@ -520,7 +415,7 @@ QString DialogMain::askForApplication(const QString &title, const QStringList &a
 void DialogMain::selectLanguage()
 {
     const QString language = ui->m_cmbLanguage->currentText();
-    oxlog::debug(OX_LOG_AT(586), oxlog::quoted(language));
-    if (!writeLocaleLine(QStringLiteral("/etc/profile"), localeLine(language)))
-        oxlog::critical(OX_LOG_AT(594), QStringLiteral("Open /etc/profile failed"));
+    oxlog::debug(OX_LOG_AT(LANGUAGE_CHOSEN), oxlog::quoted(language));
+    if (!writeLocaleLine(QLatin1String(SHELL_PROFILE), localeLine(language)))
+        oxlog::critical(OX_LOG_AT(PROFILE_NOT_OPENED), QStringLiteral("Open /etc/profile failed"));
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "display/monitor/displaymode.h"
 #include "libOxUtils/utils/log.h"
 
 #include <QDialog>
 #include <QString>
 #include <QStringList>
 
-class ConfFile;
 class QAction;
 class QMenu;
 class QTimer;
@@ -20,12 +20,9 @@ class DialogMain : public QDialog
     Q_OBJECT
 
 public:
-    // A display mode: size in pixels, refresh rate in Hz, and the text it was last read from.
-    struct T_Resolution
+    // A display mode with the text that it was last read from.
+    struct T_Resolution : DisplayMode
     {
-        quint32 width = 0;
-        quint32 height = 0;
-        quint32 refreshRate = 0;
         QString text;
     };
 
@@ -52,6 +49,15 @@ private slots:
     void chkbListAll_clicked(bool checked = false);
 
 private:
+    // The menu in its order, which the simulated box reads as well.
+    struct MenuEntry
+    {
+        const char *text;
+        QAction *DialogMain::*action;
+        void (DialogMain::*slot)();
+    };
+    static const MenuEntry MENU[];
+
     void createMenu();
     void initConnections();
     void readProductFlags();
@@ -65,11 +71,10 @@ private:
     bool parseItem(T_Resolution &resolution, const QString &item);
     // Reads the mode that the boot loader's environment holds. 0, or -1 when there is none.
     int get_cur_display_info(T_Resolution &resolution);
-    // Reads the attached monitor's EDID block, 128 bytes, into edid. 0, or -1 when no bus gives a
-    // usable one; edid then holds what the last attempt left there.
+    // Reads the attached monitor's EDID block, 128 bytes, into edid; see fetchEdid.
     int readEdid(unsigned char *edid);
-    // The same with the VGA lines led to the bus meanwhile.
-    int readEdidThroughVgaSwitch(unsigned char *edid);
+    // The same with the switched lines led to their buses meanwhile.
+    int readEdidOverSwitchedLines(unsigned char *edid);
 
     // Fills the list with every standard mode; nothing is selected.
     void listAllResolutions();
@@ -79,9 +84,8 @@ private:
     void selectCurrentResolution(const QStringList &items);
     // The current item's text, empty when there is none.
     QString selectedItem() const;
-    void switchScreenTo(const T_Resolution &resolution);
     // Stores a mode for the next start and takes it as the current one.
-    void storeMode(const T_Resolution &resolution);
+    void keep(const T_Resolution &resolution);
 
     void startUpgraderSelf();
     // true: the standard test application; false: the OTP one.
@@ -93,7 +97,6 @@ private:
     // The sites are those of the key handler, in whose name the messages stand in the log.
     void adjustGamma(const oxlog::Site &valueSite, const oxlog::Site &failureSite);
     void promptForInstruction(const oxlog::Site &loadSite, const oxlog::Site &unknownSite);
-    void followInstruction(const QString &typed, ConfFile &entry, const oxlog::Site &unknownSite);
 
     // Writes the chosen language's locale into the system-wide profile.
     void selectLanguage();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #define OX_LOG_FILE "main"
-#define OX_LOG_FIXED_POSITIONS 37, 43, 49
+#define OX_LOG_FIXED_POSITIONS(position)                                                           \
+    position(FONT_FAMILY, 37) position(TOOLKIT_CATALOGUE_MISSING, 43)                              \
+        position(OWN_CATALOGUE_MISSING, 49)
 #include "app/dialogmain.h"
 #include "app/globalvars.h"
 #include "app/modalfocusguard.h"
@@ -34,7 +36,7 @@ int main(int argc, char *argv[])
 
     GlobalVars::Init();
     installApplicationFont(QStringLiteral("/usr/share/fonts/ttf/msyh.ttf"), 9);
-    oxlog::debug(OX_LOG_AT(37), QApplication::font().family());
+    oxlog::debug(OX_LOG_AT(FONT_FAMILY), QApplication::font().family());
 
     const QString failed = QStringLiteral("Loading %1 failed.");
     const QString locale = QLocale::system().name();
@@ -43,14 +45,14 @@ int main(int argc, char *argv[])
     const QString toolkitCatalogue = QStringLiteral("qt_%1.qm").arg(locale);
     if (!toolkitTranslator.load(toolkitCatalogue,
                                 QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        oxlog::critical(OX_LOG_AT(43), failed.arg(toolkitCatalogue));
+        oxlog::critical(OX_LOG_AT(TOOLKIT_CATALOGUE_MISSING), failed.arg(toolkitCatalogue));
     QCoreApplication::installTranslator(&toolkitTranslator);
 
     QTranslator ownTranslator;
     const QString ownCatalogue =
         QStringLiteral("%1_%2.qm").arg(QCoreApplication::applicationName(), locale);
     if (!ownTranslator.load(ownCatalogue, QCoreApplication::applicationDirPath()))
-        oxlog::critical(OX_LOG_AT(49), failed.arg(ownCatalogue));
+        oxlog::critical(OX_LOG_AT(OWN_CATALOGUE_MISSING), failed.arg(ownCatalogue));
     QCoreApplication::installTranslator(&ownTranslator);
 
     ModalFocusGuard focusGuard;

@@ -18,7 +18,7 @@ QSize ResolutionList::sizeHint() const
 {
     int text = 0;
     for (const T_ResolutionEntry &entry : ALL_RESOLUTIONS) {
-        text = std::max(text, fontMetrics().horizontalAdvance(modeItem(entry.width, entry.height)));
+        text = std::max(text, fontMetrics().horizontalAdvance(modeItem(entry.mode())));
     }
     const int rows = fontMetrics().height() * static_cast<int>(std::size(ALL_RESOLUTIONS));
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);

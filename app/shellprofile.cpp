@@ -1,15 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "app/shellprofile.h"
 
+#include "app/languages.h"
+
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <unistd.h>
 
-QByteArray localeLine(const QString &language)
+QByteArray localeLine(const QString &item)
 {
-    return language == QLatin1String("Chinese") ? QByteArrayLiteral("export LANG=zh_CN.UTF-8")
-                                                : QByteArrayLiteral("export LANG=en_US.UTF-8");
+    const auto *const chosen =
+        std::find_if(std::begin(LANGUAGES), std::end(LANGUAGES), [&item](const Language &language) {
+            return item == QLatin1String(language.item);
+        });
+    const Language &language = chosen == std::end(LANGUAGES) ? FALLBACK_LANGUAGE : *chosen;
+    return {language.localeLine.data(), static_cast<int>(language.localeLine.size())};
 }
 
 qint64 localeLineOffset(const QByteArray &profile)
@@ -28,8 +35,8 @@ bool writeLocaleLine(const QString &fileName, const QByteArray &line)
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         return false;
 
-    // Both lines that the tool writes are 23 characters long, so they replace each other cleanly;
-    // what a longer or shorter foreign line leaves behind is accepted.
+    // The lines of LANGUAGES replace each other cleanly, being of one length; what a longer or
+    // shorter foreign line leaves behind is accepted.
     file.seek(localeLineOffset(file.readAll()));
     file.write(line);
     file.close();

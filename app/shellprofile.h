@@ -5,9 +5,11 @@
 #include <QByteArray>
 #include <QString>
 
+inline constexpr char SHELL_PROFILE[] = "/etc/profile";
+
 // The line that a choice in the language box stands for. The choice is compared with the
-// untranslated word "Chinese"; everything else, a translation of it included, means English.
-QByteArray localeLine(const QString &language);
+// untranslated items of LANGUAGES; everything else, a translation of one included, means English.
+QByteArray localeLine(const QString &item);
 
 // The offset in bytes at which the locale line is written: the start of the first line that holds
 // "export LANG" anywhere, in a comment as well, or the end of the profile.

@@ -1,7 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "display/i2cdevice.h"
 
-const QString I2CDevice::VGA_I2C_FILE_NAME = QStringLiteral("/dev/i2c-2");
-const QString I2CDevice::HDMI_I2C_FILE_NAME = QStringLiteral("/dev/i2c-1");
-const QString I2CDevice::VGA_I2C_SWITCH_ENABLE_FILE_NAME =
-    QStringLiteral("/sys/class/leds/vga-i2c-enb/brightness");
+#include "display/connectors.h"
+
+#include <string_view>
+
+namespace {
+
+constexpr const Connector &VGA = CONNECTORS[0];
+constexpr const Connector &HDMI = CONNECTORS[1];
+static_assert(std::string_view(VGA.name) == "vga" && std::string_view(HDMI.name) == "hdmi");
+
+} // namespace
+
+const QString I2CDevice::VGA_I2C_FILE_NAME = QLatin1String(VGA.ddcBus);
+const QString I2CDevice::HDMI_I2C_FILE_NAME = QLatin1String(HDMI.ddcBus);
+const QString I2CDevice::VGA_I2C_SWITCH_ENABLE_FILE_NAME = QLatin1String(VGA.ddcSwitch);

@@ -1,55 +1,42 @@
 // SPDX-License-Identifier: MIT
 #include "display/modetext.h"
 
-#include "display/monitor/modes.h"
-
-namespace {
-
-constexpr quint32 DEFAULT_REFRESH_HZ = 60;
-
-}
-
-ModeTextResult parseModeText(const QString &text, quint32 &width, quint32 &height,
-                             quint32 &refreshRate)
+ModeTextResult parseModeText(const QString &text, DisplayMode &mode)
 {
-    QString mode = text;
-    mode.remove(QLatin1Char('M'), Qt::CaseInsensitive);
+    QString cleaned = text;
+    cleaned.remove(QLatin1Char('M'), Qt::CaseInsensitive);
 
-    const int x = mode.indexOf(QLatin1Char('x'), 0, Qt::CaseInsensitive);
-    const int at = mode.indexOf(QLatin1Char('@'));
+    const int x = cleaned.indexOf(QLatin1Char('x'), 0, Qt::CaseInsensitive);
+    const int at = cleaned.indexOf(QLatin1Char('@'));
     if (x < 0)
         return ModeTextResult::NoWidth;
 
     bool ok = false;
-    width = mode.left(x).trimmed().toUInt(&ok);
+    mode.width = cleaned.left(x).trimmed().toUInt(&ok);
     if (!ok)
         return ModeTextResult::NoWidth;
 
     if (at < 0) {
-        height = mode.mid(x + 1).trimmed().toUInt(&ok);
-        refreshRate = DEFAULT_REFRESH_HZ;
+        mode.height = cleaned.mid(x + 1).trimmed().toUInt(&ok);
+        mode.refreshRate = STANDARD_REFRESH_HZ;
     } else {
-        // Whether the height is a number is not asked, on purpose; a bad one counts as 0.
-        height = mode.mid(x + 1, at - x - 1).toUInt();
-        refreshRate = mode.mid(at + 1).toUInt(&ok);
+        // A bad height passes as 0: the mode then has a size that no list holds, and the user picks
+        // another one.
+        mode.height = cleaned.mid(x + 1, at - x - 1).toUInt();
+        mode.refreshRate = cleaned.mid(at + 1).toUInt(&ok);
     }
     return ok ? ModeTextResult::Read : ModeTextResult::LastIsBad;
 }
 
-QString switchScreenCommand(quint32 width, quint32 height, quint32 refreshRate)
+QString modeItem(const DisplayMode &mode)
 {
-    return QStringLiteral("xrandr -s %1x%2 -r %3")
-        .arg(QString::number(width), QString::number(height), QString::number(refreshRate));
+    return QString::fromStdString(modeItemText(mode));
 }
 
-QString storeModeCommand(quint32 width, quint32 height, quint32 refreshRate)
+QStringList modeItems(const std::vector<T_ResolutionEntry> &entries)
 {
-    // Without the letter M, even where it was read with one.
-    return QStringLiteral("fw_setenv display %1x%2@%3")
-        .arg(QString::number(width), QString::number(height), QString::number(refreshRate));
-}
-
-QString modeItem(quint32 width, quint32 height)
-{
-    return QString::fromStdString(modeItemText(width, height));
+    QStringList items;
+    for (const T_ResolutionEntry &entry : entries)
+        items << modeItem(entry.mode());
+    return items;
 }

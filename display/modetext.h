@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Text forms of a display mode, and the commands made of them.
+// Text forms of a display mode.
 #pragma once
 
-#include <QString>
+#include "display/monitor/modes.h"
+
+#include <QStringList>
 
 enum class ModeTextResult {
     Read,      // the deciding number is there
@@ -11,18 +13,13 @@ enum class ModeTextResult {
 };
 
 // Reads "1920x1080@60" and its relatives: a letter M anywhere (as in a kernel video mode) is passed
-// over, X serves as x, and without an @ the refresh rate is 60 Hz. width and height are in
-// pixels, refreshRate in Hz. What was read before a failure is set, a malformed number to 0, and
-// the rest keeps what it held. The last number alone decides: a bad height before a good refresh
-// rate passes as 0.
-ModeTextResult parseModeText(const QString &text, quint32 &width, quint32 &height,
-                             quint32 &refreshRate);
+// over, X serves as x, and without an @ the refresh rate is 60 Hz. What was read before a failure
+// is set in mode, a malformed number to 0, and the rest keeps what it held. The last number alone
+// decides: a bad height before a good refresh rate passes as 0.
+ModeTextResult parseModeText(const QString &text, DisplayMode &mode);
 
-// The command line that switches the screen to a mode, in pixels and Hz.
-QString switchScreenCommand(quint32 width, quint32 height, quint32 refreshRate);
+// "1280 x 1024", the form in which the list of modes shows a mode's size.
+QString modeItem(const DisplayMode &mode);
 
-// The command line that stores a mode, in pixels and Hz, in the boot loader's environment.
-QString storeModeCommand(quint32 width, quint32 height, quint32 refreshRate);
-
-// "1280 x 1024", the form in which the list of modes shows a size in pixels.
-QString modeItem(quint32 width, quint32 height);
+// The entries as the list shows them, in their order.
+QStringList modeItems(const std::vector<T_ResolutionEntry> &entries);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "libOxUtils/utils/log.h"
+#include "maintenance/outcome.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -17,6 +20,11 @@ class DialogClock : public QDialog
     Q_OBJECT
 
 public:
+    // Lets the user set the clocks of the system and of the hardware, and sets them. Nothing after
+    // Cancel, or when the script that sets them could not be copied, which is logged at caller;
+    // Failed when that script failed, and then the system's clock may be set all the same.
+    static Outcome Run(QWidget *parent, const oxlog::Site &caller);
+
     explicit DialogClock(QWidget *parent);
     ~DialogClock() override;
 

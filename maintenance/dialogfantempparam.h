@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "maintenance/outcome.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -10,12 +12,17 @@ class DialogFanTempParam;
 }
 
 // Asks for the two temperature thresholds of the box's fan, in whole degrees: the lower one
-// from 1 to 90, the upper one from 1 to 100. Which of them is higher is the user's affair.
+// from 1 to 90, the upper one from 1 to 100. The two are not compared with each other.
 class DialogFanTempParam : public QDialog
 {
     Q_OBJECT
 
 public:
+    // Lets the user edit the thresholds in the fan control's file. Nothing when there is no such
+    // file, which shows no dialog, or after Cancel; Done after OK, also when the file could not be
+    // saved.
+    static Outcome Run(QWidget *parent);
+
     explicit DialogFanTempParam(QWidget *parent);
     ~DialogFanTempParam() override;
 

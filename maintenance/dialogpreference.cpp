@@ -54,8 +54,9 @@ void DialogPreference::buttonBox_clicked(QAbstractButton *button)
         return;
     }
 
-    // The clock's script and not this one: once a slip, now what the box is known to do. The copy
-    // of autobootapp.sh stays in /tmp until the next run replaces it.
+    // This removes the copy of the clock's script, not of this one, which stays in /tmp until the
+    // next run replaces it. It began as a slip and stays: what a run leaves in /tmp is compared
+    // file by file when a box is checked.
     QFile::remove(QStringLiteral("/tmp/calclock.sh"));
 
     if (result == ScriptResult::RunFailed) {

@@ -146,8 +146,8 @@ void explain(const std::string &name, const T_NativeTiming &native, const T_Moni
         return;
     }
     const T_ResolutionEntry &next = *modes.tooLarge;
-    say(name + ": the list stops before " + modeItemText(next.width, next.height) + ", which has " +
-        std::to_string(next.width * next.height) + " pixels, more than the " +
+    say(name + ": the list stops before " + modeItemText(next.mode()) + ", which has " +
+        std::to_string(next.pixelCount()) + " pixels, more than the " +
         std::to_string(native.width * native.height) + " of " + size);
 }
 
@@ -163,10 +163,10 @@ int showModes(const std::string &name, const std::string &title, const unsigned 
         return STATUS_NOT_VALID;
     }
 
-    const T_MonitorModes modes = monitorModes(native.width, native.height);
+    const T_MonitorModes modes = monitorModes(native);
     std::fputs(title.c_str(), stdout);
     for (const T_ResolutionEntry &entry : modes.entries)
-        std::puts(modeItemText(entry.width, entry.height).c_str());
+        std::puts(modeItemText(entry.mode()).c_str());
     explain(name, native, modes);
     return STATUS_WELL;
 }

@@ -3,14 +3,15 @@
 // toolkit's macros drop file, line and function there, and support staff filter on them.
 //
 // A source file defines OX_LOG_FILE, the name it logs under, before its first include of this
-// header. A file that has messages at fixed positions lists their line numbers in
-// OX_LOG_FIXED_POSITIONS there as well; the build then fails when another message of that file
-// lands on one of them.
+// header. A file that has messages at fixed positions lists their names and line numbers there as
+// well, in a macro that is given what to do with each:
+//
+//     #define OX_LOG_FIXED_POSITIONS(position) position(FONT_FAMILY, 37) position(...)
+//
+// The build then fails when another message of that file lands on one of them.
 #pragma once
 
 #include <QString>
-
-#include <initializer_list>
 
 namespace oxlog {
 
@@ -31,44 +32,31 @@ void critical(const Site &site, const QString &text);
 // The text in double quotes, nothing escaped.
 QString quoted(const QString &text);
 
-constexpr bool contains(std::initializer_list<int> positions, int line)
-{
-    for (int position : positions) {
-        if (position == line)
-            return true;
-    }
-    return false;
-}
-
-template<bool clear>
+template<bool isFree>
 constexpr int freeLine(int line)
 {
-    static_assert(clear,
+    static_assert(isFree,
                   "this line number belongs to a message with a fixed position: move the call");
-    return line;
-}
-
-template<bool listed>
-constexpr int fixedLine(int line)
-{
-    static_assert(listed, "not among this file's OX_LOG_FIXED_POSITIONS");
     return line;
 }
 
 } // namespace oxlog
 
 #ifndef OX_LOG_FIXED_POSITIONS
-#    define OX_LOG_FIXED_POSITIONS
+#    define OX_LOG_FIXED_POSITIONS(position)
 #endif
+#define OX_LOG_POSITION(name, line) constexpr int name = line;
+#define OX_LOG_IS_NOT_AT(name, line) &&__LINE__ != (line)
+
+namespace oxlog::positions {
+OX_LOG_FIXED_POSITIONS(OX_LOG_POSITION)
+} // namespace oxlog::positions
 
 // The site of the message written here, under the full signature of the enclosing function.
 #define OX_LOG_HERE                                                                                \
     (oxlog::Site{OX_LOG_FILE,                                                                      \
-                 oxlog::freeLine<!oxlog::contains({OX_LOG_FIXED_POSITIONS}, __LINE__)>(__LINE__),  \
+                 oxlog::freeLine<true OX_LOG_FIXED_POSITIONS(OX_LOG_IS_NOT_AT)>(__LINE__),         \
                  Q_FUNC_INFO})
 
-// The same with the line number under which support staff know the message.
-#define OX_LOG_AT(position)                                                                        \
-    (oxlog::Site{OX_LOG_FILE,                                                                      \
-                 oxlog::fixedLine<oxlog::contains({OX_LOG_FIXED_POSITIONS}, position)>(position),  \
-                 Q_FUNC_INFO})
+// The same with the line number under which support staff know the message of that name.
+#define OX_LOG_AT(name) (oxlog::Site{OX_LOG_FILE, oxlog::positions::name, Q_FUNC_INFO})

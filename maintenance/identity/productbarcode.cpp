@@ -20,10 +20,13 @@ struct ProductType
     quint32 flags;
 };
 
-// Every known type. Only the flags' bit 0x08 means something to this program.
+constexpr quint32 OTP = ProductBarcode::OTP_APPLICATION;
+
+// Every known type.
 constexpr ProductType PRODUCT_TYPES[] = {
-    {0, 0},    {421, 0},  {437, 0},  {458, 32}, {463, 64}, {509, 1},   {516, 17},
-    {527, 79}, {548, 68}, {552, 71}, {569, 79}, {574, 79}, {681, 192}, {694, 207},
+    {0, 0x00},         {421, 0x00},       {437, 0x00},       {458, 0x20},       {463, 0x40},
+    {509, 0x01},       {516, 0x11},       {527, 0x47 | OTP}, {548, 0x44},       {552, 0x47},
+    {569, 0x47 | OTP}, {574, 0x47 | OTP}, {681, 0xC0},       {694, 0xC7 | OTP},
 };
 constexpr qint32 UNKNOWN_TYPE_COUNTS_AS = 458;
 
@@ -82,7 +85,8 @@ bool ProductBarcode::DecodeBarcode(T_Barcode &barcode, const QStringList &lines)
     barcode.barcode = lines.at(BARCODE_LINE);
     barcode.type = typeOf(barcode.barcode);
 
-    // The family's date goes into this copy alone, on purpose: the record's own stays null.
+    // The family's date goes into this copy alone. The record's own stays null, so that nothing
+    // comes to depend on a date that is only guessed from the family.
     QDate productionDate = barcode.productionDate;
     setProductionDate(productionDate, barcode.barcode.mid(3, 2));
 

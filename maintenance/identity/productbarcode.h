@@ -9,6 +9,10 @@
 class ProductBarcode
 {
 public:
+    // The capability flag of boxes that carry the OTP test application, the one flag of all that
+    // means something to this program.
+    static constexpr quint32 OTP_APPLICATION = 0x08;
+
     // A decoded barcode such as "573KH214": three digits of product type, two letters of product
     // family, three digits of serial number.
     struct T_Barcode
@@ -27,8 +31,7 @@ public:
     // form; false also, but with text and type set, when the serial number is no number.
     static bool DecodeBarcode(T_Barcode &barcode, const QStringList &lines);
 
-    // The capability flags of the record's product type, 0 for a type that has none. 0x08 marks a
-    // box that carries the OTP test application.
+    // The capability flags of the record's product type, 0 for a type that has none.
     static void GetTypeFlags(const T_Barcode &barcode, quint32 &flags);
 
     // The root file system's version, the first line that is not empty of /etc/orvex/version or,

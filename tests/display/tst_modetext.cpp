@@ -38,11 +38,10 @@ void TestModeText::modeTexts_data()
 void TestModeText::modeTexts()
 {
     QFETCH(QString, text);
-    quint32 width = 7;
-    quint32 height = 8;
-    quint32 refreshRate = 9;
-    QTEST(int(parseModeText(text, width, height, refreshRate)), "result");
-    QTEST(QStringLiteral("%1x%2@%3").arg(width).arg(height).arg(refreshRate), "numbers");
+    DisplayMode mode{7, 8, 9};
+    QTEST(int(parseModeText(text, mode)), "result");
+    QTEST(QStringLiteral("%1x%2@%3").arg(mode.width).arg(mode.height).arg(mode.refreshRate),
+          "numbers");
 }
 
 QTEST_APPLESS_MAIN(TestModeText)

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// The mode that the box runs in: xrandr switches it, the boot loader's environment keeps it.
+#pragma once
+
+#include "display/monitor/displaymode.h"
+#include "libOxUtils/utils/log.h"
+
+#include <QString>
+
+// Reads the mode's text from the boot loader's environment, trimmed. False when it cannot be read,
+// which is logged at failureSite, at critical level and with what the command said.
+bool readStoredMode(QString &text, const oxlog::Site &failureSite);
+
+// Switches the screen to a mode. Whether it did is for the user in front of it to say.
+void switchScreen(const DisplayMode &mode);
+
+// Stores a mode for the next start, on the storage before this returns: the box may be switched off
+// right after. False when that fails; error then is what the command said, empty if it did not
+// start or did not end in time.
+bool storeMode(const DisplayMode &mode, QString &error);
