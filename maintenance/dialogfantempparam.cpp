@@ -2,8 +2,24 @@
 #include "maintenance/dialogfantempparam.h"
 
 #include "libOxUtils/fileio/conffile.h"
-#include "maintenance/fanthresholds.h"
 #include "ui_dialogfantempparam.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+const QString LOWER_KEY = QStringLiteral("temp_threshold_lower");
+const QString UPPER_KEY = QStringLiteral("temp_threshold_upper");
+
+// 0 for what is no number; the spin box brings it into its range.
+int threshold(const QString &text)
+{
+    const uint highest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::min(text.toUInt(), highest));
+}
+
+} // namespace
 
 Outcome DialogFanTempParam::Run(QWidget *parent)
 {
@@ -11,16 +27,16 @@ Outcome DialogFanTempParam::Run(QWidget *parent)
     if (!conf.LoadConf())
         return Outcome::Nothing;
 
-    int lower = 0;
-    int upper = 0;
-    readFanThresholds(conf, lower, upper);
     DialogFanTempParam dialog(parent);
-    dialog.SetThresholds(lower, upper);
+    dialog.SetThresholds(threshold(conf.GetValue(LOWER_KEY)), threshold(conf.GetValue(UPPER_KEY)));
     if (dialog.exec() != QDialog::Accepted)
         return Outcome::Nothing;
 
+    int lower = 0;
+    int upper = 0;
     dialog.GetThresholds(lower, upper);
-    setFanThresholds(conf, lower, upper);
+    conf.SetValue(LOWER_KEY, QString::number(lower));
+    conf.SetValue(UPPER_KEY, QString::number(upper));
     conf.SaveConf();
     return Outcome::Done;
 }

@@ -22,17 +22,3 @@ QStringList nonEmptyLines(const QString &path)
     }
     return lines;
 }
-
-bool firstNonEmptyLine(const QString &path, QString &line)
-{
-    const QStringList lines = nonEmptyLines(path);
-    line = lines.isEmpty() ? QString() : lines.first().trimmed();
-    return !lines.isEmpty();
-}
-
-bool lastNonEmptyLine(const QString &path, QString &line)
-{
-    const QStringList lines = nonEmptyLines(path);
-    line = lines.isEmpty() ? QString() : lines.last().trimmed();
-    return !lines.isEmpty();
-}

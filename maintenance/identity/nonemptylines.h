@@ -7,8 +7,3 @@
 // The file's lines that are not empty, as they stand, blanks included, in the locale's encoding and
 // without their line ends. None when path is not a regular file or cannot be read.
 QStringList nonEmptyLines(const QString &path);
-
-// The first and the last of the file's lines that are not empty, trimmed. false, and line is empty,
-// when there is none; a line of blanks is one, and is empty once trimmed.
-bool firstNonEmptyLine(const QString &path, QString &line);
-bool lastNonEmptyLine(const QString &path, QString &line);

@@ -105,10 +105,16 @@ bool ProductBarcode::ReadRootfsVersion(QString &version)
 {
     // The first of the two that exists counts, whatever it holds.
     const QString own = QStringLiteral("/etc/orvex/version");
-    return firstNonEmptyLine(QFile::exists(own) ? own : QStringLiteral("/etc/version"), version);
+    const QStringList lines =
+        nonEmptyLines(QFile::exists(own) ? own : QStringLiteral("/etc/version"));
+    version = lines.value(0).trimmed();
+    return !lines.isEmpty();
 }
 
 bool ProductBarcode::ReadRootfsPatch(QString &patch)
 {
-    return lastNonEmptyLine(QStringLiteral("/etc/orvex/patches_version.txt"), patch);
+    // The file grows by a line a patch.
+    const QStringList lines = nonEmptyLines(QStringLiteral("/etc/orvex/patches_version.txt"));
+    patch = lines.value(lines.size() - 1).trimmed();
+    return !lines.isEmpty();
 }

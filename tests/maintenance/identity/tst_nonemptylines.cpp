@@ -40,11 +40,6 @@ void TestNonEmptyLines::files()
     for (const QString &line : nonEmptyLines(file.fileName()))
         kept << line.toLatin1();
     QCOMPARE(kept, lines);
-    QString line = QStringLiteral("before");
-    QCOMPARE(firstNonEmptyLine(file.fileName(), line), !lines.isEmpty());
-    QCOMPARE(line.toLatin1(), lines.value(0).trimmed());
-    QCOMPARE(lastNonEmptyLine(file.fileName(), line), !lines.isEmpty());
-    QCOMPARE(line.toLatin1(), lines.value(lines.size() - 1).trimmed());
 }
 
 QTEST_GUILESS_MAIN(TestNonEmptyLines)
