@@ -7,7 +7,7 @@ WERROR := OFF
 PACKAGES := build/packages
 SYSROOT := build/sysroot-armhf
 
-.PHONY: run check screenshots lint packages build package check-package check-armhf package-tools
+.PHONY: run check check-qt6 screenshots lint packages build package check-package check-armhf package-tools
 
 # The tool in the simulated box, in a browser page.
 run: build
@@ -16,6 +16,13 @@ run: build
 # Every test: units, dialogs, and the real program in the simulated box.
 check: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+# The same with Qt 6 in place of Qt 5.
+check-qt6:
+	packaging/install-build-packages packaging/build-packages.txt packaging/qt6-packages.txt
+	cmake --preset qt6
+	cmake --build --preset qt6 -j $(JOBS)
+	ctest --test-dir build/qt6 --output-on-failure -j $(JOBS)
 
 # A picture of every window in both languages, and those of README and manual.
 screenshots: build

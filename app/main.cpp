@@ -9,10 +9,10 @@
 #include "app/qtsingleapplication.h"
 #include "app/startup.h"
 #include "libOxUtils/utils/log.h"
+#include "libOxUtils/utils/qtversions.h"
 #include "maintenance/identity/appversion.h"
 
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -43,8 +43,7 @@ int main(int argc, char *argv[])
 
     QTranslator toolkitTranslator;
     const QString toolkitCatalogue = QStringLiteral("qt_%1.qm").arg(locale);
-    if (!toolkitTranslator.load(toolkitCatalogue,
-                                QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+    if (!toolkitTranslator.load(toolkitCatalogue, qtversions::toolkitTranslationsPath()))
         oxlog::critical(OX_LOG_AT(TOOLKIT_CATALOGUE_MISSING), failed.arg(toolkitCatalogue));
     QCoreApplication::installTranslator(&toolkitTranslator);
 

@@ -30,7 +30,7 @@ bool isBlockedByModal(xcb_window_t id)
 } // namespace
 
 bool ModalFocusGuard::nativeEventFilter(const QByteArray &eventType, void *message,
-                                        long * /*result*/)
+                                        qtversions::NativeEventResult * /*result*/)
 {
     if (eventType != "xcb_generic_event_t")
         return false;

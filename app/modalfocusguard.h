@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "libOxUtils/utils/qtversions.h"
+
 #include <QAbstractNativeEventFilter>
 #include <QElapsedTimer>
 
@@ -14,7 +16,8 @@ class ModalFocusGuard : public QAbstractNativeEventFilter
 {
 public:
     // Takes focus events of blocked windows from the toolkit. True: the event is not passed on.
-    bool nativeEventFilter(const QByteArray &eventType, void *message, long *result) override;
+    bool nativeEventFilter(const QByteArray &eventType, void *message,
+                           qtversions::NativeEventResult *result) override;
 
 private:
     QElapsedTimer m_sinceLastPassed;

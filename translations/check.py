@@ -2,27 +2,28 @@
 # SPDX-License-Identifier: MIT
 """Fails when a catalogue lacks a text, has one too many, or translates what has to stay.
 
-    check.py DIRECTORY LUPDATE...
+    check.py CATALOGUE... -- LUPDATE...
 
-DIRECTORY takes copies of the catalogues, which LUPDATE, completed by their names, updates.
+LUPDATE, completed by the name of a catalogue's copy, updates that.
 """
 
 import re
 import shutil
 import subprocess
 import sys
+import tempfile
 import xml.etree.ElementTree as ET
 from pathlib import Path
 
 
-def faults(message, language):
+def faults(message):
     source, translation = message.findtext('source'), message.find('translation')
     text = translation.text or ''
     if translation.get('type'):
         yield translation.get('type')
         return
     stays = re.search('stays as it is', message.findtext('extracomment', ''), re.IGNORECASE)
-    if (stays or language == 'en_US') and text != source:
+    if stays and text != source:
         yield f'has to stay, and is "{text}"'
     if not text or sorted(re.findall(r'%\d', text)) != sorted(re.findall(r'%\d', source)):
         yield f'is empty or has other placeholders: "{text}"'
@@ -40,15 +41,16 @@ def check(catalogue, updated):
     if messages(root).keys() != messages(ET.parse(catalogue).getroot()).keys():
         yield 'texts or comments in the source have changed: build update-translations'
     for (context, source, _), message in messages(root).items():
-        for fault in faults(message, root.get('language')):
+        for fault in faults(message):
             yield f'{context}: "{source}" {fault}'
 
 
-directory, *lupdate = sys.argv[1:]
+end = sys.argv.index('--')
 found = []
-for file in sorted(Path(__file__).resolve().parent.glob('*.ts')):
-    copy = Path(shutil.copy(file, directory))
-    subprocess.run([*lupdate, copy], check=True)
-    found += [f'{file.name}: {fault}' for fault in check(file, copy)]
+with tempfile.TemporaryDirectory() as directory:
+    for file in map(Path, sys.argv[1:end]):
+        copy = Path(shutil.copy(file, directory))
+        subprocess.run([*sys.argv[end + 1:], copy], check=True)
+        found += [f'{file.name}: {fault}' for fault in check(file, copy)]
 print('\n'.join(found) or 'all catalogues are complete')
 sys.exit(1 if found else 0)

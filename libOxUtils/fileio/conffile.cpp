@@ -3,12 +3,14 @@
 
 #define OX_LOG_FILE "libOxUtils/fileio/conffile"
 #include "libOxUtils/utils/log.h"
+#include "libOxUtils/utils/qtversions.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
 
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -76,7 +78,7 @@ bool ConfFile::LoadConf()
         oxlog::critical(OX_LOG_HERE, QStringLiteral("Loading file failed..."));
         return false;
     }
-    for (const QString &line : qAsConst(lines)) {
+    for (const QString &line : std::as_const(lines)) {
         const T_ConfItem item = parsed(line);
         m_items.append(item);
         if (!item.key.isEmpty())
@@ -106,7 +108,7 @@ bool ConfFile::SaveConf()
 
     QStringList lines;
     lines.reserve(m_items.size());
-    for (const T_ConfItem &item : qAsConst(m_items))
+    for (const T_ConfItem &item : std::as_const(m_items))
         lines.append(rendered(item));
     return saveFromStringList(lines);
 }
@@ -117,6 +119,7 @@ bool ConfFile::loadToStringList(QStringList &lines)
     if (!openExisting(file, QIODevice::ReadOnly, OX_LOG_HERE))
         return false;
     QTextStream stream(&file);
+    qtversions::useLocaleEncoding(stream);
     const QString text = stream.readAll();
     file.close();
 
@@ -134,6 +137,7 @@ bool ConfFile::saveFromStringList(const QStringList &lines)
     // As one text, so that the file stands truncated for as short as possible: the box may lose
     // power right after a setting is changed.
     QTextStream stream(&file);
+    qtversions::useLocaleEncoding(stream);
     stream << lines.join(QLatin1Char('\n'));
     stream.flush();
     file.close();

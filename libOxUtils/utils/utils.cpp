@@ -5,6 +5,7 @@
 #include "libOxUtils/utils/log.h"
 
 #include "libOxUtils/utils/commandline.h"
+#include "libOxUtils/utils/qtversions.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -24,12 +25,6 @@ namespace {
 
 constexpr int SCRIPT_WAIT_MS = 30000;
 constexpr int ACQUIRE_WAIT_MS = 5;
-
-#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
-constexpr auto SKIP_EMPTY_PARTS = Qt::SkipEmptyParts;
-#else
-constexpr auto SKIP_EMPTY_PARTS = QString::SkipEmptyParts;
-#endif
 
 QString startFailed()
 {
@@ -128,8 +123,8 @@ bool Utils::GetMountPointFromDevNode(QString &mountPoint, const QString &devNode
         return false;
     }
     // The fields of all matching lines run together; the second belongs to the first line.
-    const QStringList fields =
-        output.trimmed().split(QRegularExpression(QStringLiteral("\\s+")), SKIP_EMPTY_PARTS);
+    const QStringList fields = output.trimmed().split(QRegularExpression(QStringLiteral("\\s+")),
+                                                      qtversions::SKIP_EMPTY_PARTS);
     if (fields.size() <= 2)
         return false;
     mountPoint = fields.at(1);
@@ -201,7 +196,7 @@ QString Utils::ErrnoString(const QString &text, int errnum)
 
 void Utils::StripComments(QString &result, const QString &text, const QString &marker)
 {
-    QStringList lines = text.split(QLatin1Char('\n'), SKIP_EMPTY_PARTS);
+    QStringList lines = text.split(QLatin1Char('\n'), qtversions::SKIP_EMPTY_PARTS);
     for (QString &line : lines) {
         const int start = line.indexOf(marker);
         if (start >= 0)

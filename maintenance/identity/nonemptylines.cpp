@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "maintenance/identity/nonemptylines.h"
 
+#include "libOxUtils/utils/qtversions.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
@@ -15,6 +17,7 @@ QStringList nonEmptyLines(const QString &path)
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return lines;
     QTextStream stream(&file);
+    qtversions::useLocaleEncoding(stream);
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
         if (!line.isEmpty())

@@ -3,7 +3,6 @@
 #include "tests/support/logcapture.h"
 
 #include <QTemporaryDir>
-#include <QTextCodec>
 #include <QtTest>
 
 namespace {
@@ -37,7 +36,6 @@ void TestConfFile::initTestCase()
 {
     QVERIFY(m_directory.isValid());
     m_path = m_directory.filePath(text("a %1.conf"));
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 }
 
 void TestConfFile::put(const QByteArray &content)
