@@ -9,9 +9,9 @@ SYSROOT := build/sysroot-armhf
 
 .PHONY: run check check-qt6 screenshots lint packages build package check-package check-armhf package-tools
 
-# The tool in the simulated box, in a browser page.
+# The tool in the simulated box, in a browser page, on a screen small enough to be read there.
 run: build
-	simbox/simbox --program $(BUILD) run
+	simbox/simbox --program $(BUILD) --hdmi 1280x1024 --mode 1024x768 run
 
 # Every test: units, dialogs, and the real program in the simulated box.
 check: build

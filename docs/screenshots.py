@@ -19,9 +19,9 @@ DOCS = Path(__file__).resolve().parent
 sys.dont_write_bytecode = True
 sys.path.append(str(DOCS.parent / 'simbox'))
 import driver  # noqa: E402
+import tables  # noqa: E402
 from driver import keys, output, wait_for  # noqa: E402
 
-LOCALES = ('en_US', 'zh_CN')
 DENSITIES = (96, 192)
 # What README and manual show.
 IMAGES = {'main.png': 'en_US-96/main.png', 'main-chinese.png': 'zh_CN-96/main.png',
@@ -92,10 +92,10 @@ class Walk:
         return self.open(name, lambda: keys(*names))
 
     def menu(self, name, entry):
-        """Opens the window behind an entry of the main window's menu, counted from 1."""
+        """Opens the window behind an entry of the main window's menu, by its English text."""
         keys('Menu')
         time.sleep(SETTLED)
-        self.open(name, lambda: keys(*['Down'] * entry, 'Return'))
+        self.open(name, lambda: keys(*['Down'] * (tables.MENU.index(entry) + 1), 'Return'))
 
 
 def focus():
@@ -177,17 +177,17 @@ def dialogs(way):
     driver.type_text('x')
     way.replace('error-instruction', 'Return')
     way.close('Return')
-    way.menu('upgrade-application', 1)
+    way.menu('upgrade-application', 'Upgrade Application')
     way.close('Escape')
-    way.menu('preference', 3)
+    way.menu('preference', 'Preference')
     Path('/etc/xdg/autostart/vexastd.desktop').touch()
     way.open('error-preference', lambda: keys('Return'))
     way.windows.pop(-2)
     way.close('Return')
-    way.menu('reset-question', 4)
+    way.menu('reset-question', 'Factory Reset')
     way.replace('reset-application', 'alt+y')
     way.close('Escape')
-    way.menu('fan', 5)
+    way.menu('fan', 'Fan Setting')
     way.replace('fan-information', 'Return')
     way.close('Return')
 
@@ -206,7 +206,7 @@ def question(way):
 
 def take_all(build, directory):
     simbox = DOCS.parent / 'simbox/simbox'
-    for locale in LOCALES:
+    for locale in tables.LOCALES:
         for density in DENSITIES:
             command = [simbox, '--program', build, '--locale', locale, '--otp', 'exec', __file__,
                        '--inside', str(density)]

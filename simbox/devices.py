@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-"""The box's device nodes, answered as its drivers and the monitors on its two buses would.
+"""The box's device nodes, answered as its drivers and the monitors on its connectors would.
 
-The files /run/simbox/vga and /run/simbox/hdmi hold what is plugged in (see monitors.py); writing
-to one of them exchanges the monitor. Each transfer, each value of the LED and each gamma table is
-a line of /run/simbox/calls.
+A file in /run/simbox named for each connector, such as vga, holds what is plugged in there (see
+monitors.py); writing to it exchanges the monitor. Each transfer, each value of a switch and each
+gamma table is a line of /run/simbox/calls.
 """
 
 import errno
@@ -20,12 +20,13 @@ gi.require_version('UMockdev', '1.0')
 from gi.repository import UMockdev  # noqa: E402
 
 import monitors  # noqa: E402
+from tables import CONNECTORS  # noqa: E402
 
 RUN = Path('/run/simbox')
 I2C_RDWR, I2C_M_RD, DDC_ADDRESS = 0x0707, 1, 0x50           # linux/i2c-dev.h, linux/i2c.h
 FBIOGET_VSCREENINFO, MXCFB_SET_GAMMA = 0x4600, 0x40844628   # linux/fb.h, linux/mxcfb.h
 NODE = 'P: /devices/{0}\nN: {0}\nE: DEVNAME=/dev/{0}\nE: SUBSYSTEM=box\n\n'
-LED = 'P: /devices/leds/vga-i2c-enb\nE: SUBSYSTEM=leds\nA: brightness=0\n\n'
+LED = 'P: /devices/leds/{}\nE: SUBSYSTEM=leds\nA: brightness=0\n\n'
 
 
 calls = os.open(RUN / 'calls', os.O_WRONLY | os.O_APPEND | os.O_CREAT)
@@ -36,9 +37,10 @@ def record(line):
 
 
 class Led:
-    """The switch of the VGA lines: a pipe, so that each value written counts, as in sysfs."""
+    """The switch of a connector's lines: a pipe, so that each value written counts, as in sysfs."""
 
-    def __init__(self, path):
+    def __init__(self, connector, path):
+        self.connector = connector
         os.unlink(path)
         os.mkfifo(path)
         self.pipe = os.open(path, os.O_RDWR | os.O_NONBLOCK)
@@ -54,7 +56,7 @@ class Led:
         with self.lock:
             if select.select([self.pipe], [], [], 0)[0]:
                 for value in re.findall(rb'\d', os.read(self.pipe, 4096)):
-                    record(f'led {value.decode()}')
+                    record(f'{self.connector} switched {value.decode()}')
                     self.lit = value != b'0'
             return self.lit
 
@@ -136,10 +138,14 @@ def serve(size):
     os.environ['TMPDIR'] = str(RUN)
     testbed = UMockdev.Testbed.new()
     del os.environ['TMPDIR']
-    testbed.add_from_string(''.join(map(NODE.format, ('i2c-1', 'i2c-2', 'fb0'))) + LED)
-    led = Led(testbed.get_sys_dir() + '/class/leds/vga-i2c-enb/brightness')
-    for node, device in (('/dev/i2c-1', Bus('hdmi')), ('/dev/i2c-2', Bus('vga', led.is_lit)),
-                         ('/dev/fb0', Framebuffer(size))):
+    nodes = [Path(bus).name for _, bus, _ in CONNECTORS] + ['fb0']
+    leds = [Path(switch).parent.name for *_, switch in CONNECTORS if switch]
+    testbed.add_from_string(''.join([*map(NODE.format, nodes), *map(LED.format, leds)]))
+    devices = {'/dev/fb0': Framebuffer(size)}
+    for name, bus, switch in CONNECTORS:
+        led = switch and Led(name, testbed.get_root_dir() + switch)
+        devices[bus] = Bus(name, led.is_lit) if led else Bus(name)
+    for node, device in devices.items():
         handler = UMockdev.IoctlBase()
         handler.connect('handle-ioctl', handle, device)
         testbed.attach_ioctl(node, handler)

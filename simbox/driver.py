@@ -10,9 +10,17 @@ import subprocess
 import time
 from pathlib import Path
 
+import tables
+
 PATIENCE = 20       # seconds, for what usually takes a fraction of one
 PROGRAM = '/opt/moniconf/moniconf'
 RUN = Path('/run/simbox')
+# Pixels from the main window's top left corner, in the box's font at 96 dots an inch.
+APPLY = (236, 217)
+CLOCK = (143, 308)
+BLANK = (240, 120)
+FIRST_ROW = (60, 51)
+ROW_HEIGHT = 15
 Message = collections.namedtuple('Message', 'type file line function category text')
 
 
@@ -104,6 +112,20 @@ def click(window, x, y, button=1, times=1):
            'click', '--repeat', str(times), '--delay', '60', str(button))
 
 
+def click_row(window, row):
+    """Chooses a row of the list of modes, counted from 0."""
+    click(window, FIRST_ROW[0], FIRST_ROW[1] + row * ROW_HEIGHT)
+
+
+def choose(window, entry, is_otp=True):
+    """Chooses an entry of the main window's menu by its English text, on an OTP product or not."""
+    click(window, *BLANK, button=3)
+    wait_for(lambda: len(output('xdotool', 'search', '--onlyvisible', '--class',
+                                'moniconf').split()) == 2, 'the menu')
+    entries = [text for text in tables.MENU if is_otp or text != 'Preference']
+    keys(*['Down'] * (entries.index(entry) + 1), 'Return')
+
+
 def screen_size():
     """The mode of the screen, such as '1280x1024'."""
     return 'x'.join(re.search(r'current (\d+) x (\d+)', output('xrandr')).groups())
@@ -115,7 +137,7 @@ def stored_mode():
 
 
 def plug(bus, what):
-    """Exchanges the monitor on 'vga' or 'hdmi'."""
+    """Exchanges the monitor on a connector, such as 'vga'."""
     (RUN / bus).write_text(what, encoding='utf-8')
 
 

@@ -7,6 +7,8 @@ import struct
 import zlib
 from pathlib import Path
 
+from tables import LOCALES
+
 FONT = '/usr/share/fonts/truetype/wqy/wqy-microhei.ttc'
 LOCALE = '/usr/lib/locale/C.utf8'
 BOOT_ENVIRONMENT = 'var/lib/boot-environment'
@@ -67,15 +69,15 @@ def fill(root, mode, barcode, locale):
     (root / 'usr/share/fonts/ttf').mkdir()
     shutil.copy2(FONT, root / 'usr/share/fonts/ttf/msyh.ttf')
     shutil.copytree(LOCALE, root / 'usr/lib/locale/C.utf8')
-    for name in ('en_US.utf8', 'zh_CN.utf8'):
-        (root / 'usr/lib/locale' / name).symlink_to('C.utf8')
+    for name in LOCALES:
+        (root / 'usr/lib/locale' / f'{name}.utf8').symlink_to('C.utf8')
     variables = f'display={mode}M@60\0'.encode().ljust(0x4000 - 4, b'\0')
     (root / BOOT_ENVIRONMENT).write_bytes(struct.pack('<I', zlib.crc32(variables)) + variables)
 
 
 def install(root, build):
     """Copies the program and its catalogues out of the build tree; false if there is none."""
-    for name in ('moniconf', '*.qm', 'app/moniconf', 'app/*.qm', 'display/monitor/moniconf-edid'):
+    for name in ('moniconf', 'moniconf-edid', '*.qm'):
         for file in filter(Path.is_file, build.glob(name)):
             shutil.copy(file, root / 'opt/moniconf')
     return (root / 'opt/moniconf/moniconf').is_file()

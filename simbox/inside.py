@@ -7,6 +7,7 @@
 """
 
 import os
+import re
 import select
 import subprocess
 import sys
@@ -14,9 +15,11 @@ import time
 
 import devices
 from devices import RUN
+from driver import output
+from tables import MODES
 
 PATIENCE = 20       # seconds for a part of the box to come up
-SCREEN = ['Xvnc', ':0', '-displayfd', '1', '-geometry', '1440x900', '-depth', '24',
+SCREEN = ['Xvnc', ':0', '-displayfd', '1', '-depth', '24',
           '-rfbport', '-1', '-rfbunixpath', f'{RUN}/rfb', '-SecurityTypes', 'None',
           '-noreset', '-AlwaysShared', '-AcceptSetDesktopSize=0', '-desktop', 'simulated box']
 PATTERN = '%{time hh:mm:ss} %{type} %{file}:%{line} %{message}'
@@ -40,11 +43,25 @@ def wait_for(part, is_up):
         time.sleep(0.01)
 
 
+def offer_modes():
+    """Adds the modes of the product's list that the server does not offer by itself."""
+    screens = output('xrandr')
+    connector = re.search(r'(\S+) connected', screens)[1]
+    for mode in set(MODES) - set(re.findall(r'^ +(\d+x\d+) ', screens, re.MULTILINE)):
+        width, height = map(int, mode.split('x'))
+        clock = 60 * (width + 160) * (height + 30) / 1e6
+        output('xrandr', '--newmode', mode, str(clock), str(width), str(width + 48),
+               str(width + 80), str(width + 160), str(height), str(height + 3), str(height + 8),
+               str(height + 30))
+        output('xrandr', '--addmode', connector, mode)
+
+
 def desktop(mode):
     """The screen, in the mode of that name, and its window manager."""
     server = start(*SCREEN)
     # The server says its number when it is ready for programs.
     wait_for(server, lambda: select.select([server.stdout], [], [], 0)[0])
+    offer_modes()
     switch = subprocess.run(['xrandr', '-s', mode, '-r', '60'], capture_output=True, text=True,
                             check=False)
     if switch.returncode != 0:

@@ -7,16 +7,10 @@ import unittest
 from pathlib import Path
 
 import driver
-from driver import click, keys, screen_size, stored_mode, wait_for, wait_for_window, wait_until_gone
+from driver import (APPLY, click, click_row, keys, screen_size, stored_mode, wait_for,
+                    wait_for_window, wait_until_gone)
 
 BOOT_CONFIG = Path('/etc/fw_env.config')
-APPLY = (236, 217)      # pixels from the window's corner, in the box's font
-FIRST_ROW = (60, 51)
-ROW_HEIGHT = 15
-
-
-def click_row(window, row):
-    click(window, FIRST_ROW[0], FIRST_ROW[1] + row * ROW_HEIGHT)
 
 
 class Display(unittest.TestCase):
@@ -104,8 +98,8 @@ class Display(unittest.TestCase):
         click(window, *APPLY)
         wait_for_window('Information')
         self.assertEqual(screen_size(), '1280x1024')
-        led = wait_for(lambda: driver.calls('led'), 'the switch of the VGA lines')
-        self.assertEqual(led, ['led 1', 'led 0'] * (len(led) // 2))
+        led = wait_for(lambda: driver.calls('vga switched'), 'the switch of the VGA lines')
+        self.assertEqual(led, ['vga switched 1', 'vga switched 0'] * (len(led) // 2))
 
     def test_child_processes_are_spared_the_toolkit_setting(self):
         window = wait_for_window('Display Settings')

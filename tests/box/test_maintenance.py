@@ -9,11 +9,8 @@ from pathlib import Path
 import driver
 from driver import calls, click, keys, type_text, wait_for, wait_for_window, wait_until_gone
 
-MENU = ('Upgrade Application', 'Upgrade File System', 'Preference', 'Factory Reset', 'Fan Setting')
 AUTOSTART = Path('/etc/xdg/autostart')
 SHELL = Path('/usr/local/bin/sh')
-BLANK = (240, 120)      # pixels from the window's corner, in the box's font
-CLOCK = (143, 308)
 
 
 def commands():
@@ -34,10 +31,7 @@ class Maintenance(unittest.TestCase):
         self.already = len(commands())
 
     def choose(self, entry):
-        click(self.window, *BLANK, button=3)
-        wait_for(lambda: len(driver.output('xdotool', 'search', '--onlyvisible', '--class',
-                                           'moniconf').split()) == 2, 'the menu')
-        keys(*['Down'] * (MENU.index(entry) + 1), 'Return')
+        driver.choose(self.window, entry)
 
     def assert_logged(self, line, function, text):
         wait_for(lambda: self.tool.messages(
@@ -52,7 +46,7 @@ class Maintenance(unittest.TestCase):
 
     def test_clock(self):
         Path('/tmp/calclock.sh').write_text('stale')
-        click(self.window, *CLOCK, times=2)
+        click(self.window, *driver.CLOCK, times=2)
         wait_for_window('Setting Date Time')
         keys('2', '0', '3', '1', 'Return')
         wait_until_gone('Setting Date Time')
@@ -67,7 +61,7 @@ class Maintenance(unittest.TestCase):
         self.addCleanup(hardware_clock.write_text, hardware_clock.read_text())
         hardware_clock.write_text('#!/bin/sh\nexit 1\n')
         wait_for_window('Display Settings')
-        click(self.window, *CLOCK, times=2)
+        click(self.window, *driver.CLOCK, times=2)
         wait_for_window('Setting Date Time')
         keys('Return')
         wait_for_window('Error')
