@@ -17,15 +17,15 @@ public:
 
     // Sends message to the running instance and waits for its answer, timeout milliseconds at
     // most over connecting, writing and the answer. False when this is the running instance, when
-    // none under the same user answers in time, or when the temporary directory lets nobody know:
-    // the caller then starts up as usual.
+    // none under the same user answers in time, or when lock or socket cannot be made in the
+    // temporary directory: the caller then starts up as usual.
     bool sendMessage(const QString &message, int timeout = 5000);
 
 private:
     enum class Role {
         Running, // others talk to this one
         Second,  // somebody else holds the lock
-        Alone,   // there is no telling, and the log says why
+        Alone,   // the lock or the socket cannot be made, and the log says why
     };
 
     Role takeRole();

@@ -49,8 +49,9 @@ QString BaseDevice::GetErrorString() const
     return m_errorString;
 }
 
-// The loops of WriteBytes and ReadBytes have no limit, on purpose: a device that keeps failing
-// keeps the caller.
+// The loops of WriteBytes and ReadBytes have no limit. The board's switch can refuse for as long as
+// its driver is busy, and half a transfer would leave the lines in an unknown state: a device that
+// keeps failing keeps the caller.
 
 int BaseDevice::WriteBytes(const char *data, int len)
 {
@@ -66,7 +67,8 @@ int BaseDevice::WriteBytes(const char *data, int len)
 bool BaseDevice::WriteString(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
-    // Bytes against characters, on purpose: a text outside ASCII is written and counts as failed.
+    // Bytes are compared with characters: the device files take ASCII, so a text outside it is
+    // written and counts as failed.
     return WriteBytes(bytes.constData(), bytes.size()) == text.size();
 }
 

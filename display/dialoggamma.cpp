@@ -44,7 +44,8 @@ void DialogGamma::buttonBox_clicked(QAbstractButton *button)
         accept();
         return;
     }
-    // The box has no title on purpose. Once it is closed the dialog ends accepted, with gamma 0:
-    // the form connects the button box's accepted signal as well, which follows the click.
+    // The text is all that the box has to say, so it has no title. Once it is closed the dialog
+    // ends accepted, with gamma 0: the form connects the button box's accepted signal as well,
+    // which follows the click.
     QMessageBox::critical(this, QString(), tr("Error"));
 }

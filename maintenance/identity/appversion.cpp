@@ -27,8 +27,9 @@ QString appVersion(const QString &buildDate, const QString &buildTime)
     const QString built = QStringLiteral("%1 %2").arg(buildDate, buildTime).simplified();
     const QDateTime local = QLocale(QLocale::English, QLocale::UnitedStates)
                                 .toDateTime(built, QStringLiteral("MMM d yyyy HH:mm:ss"));
-    // The build's clock is taken as the box's local time, so that the same build has another name
-    // in another zone. In UTC+8 it is the build's own clock.
+    // The build's time is read as local time of the box and told in UTC+8. On a box in that zone
+    // the version shows the build's own clock; on a box in another zone the same build shows
+    // another version.
     const QDateTime shown = local.toOffsetFromUtc(VERSION_ZONE_SECONDS);
     // The last part is an empty suffix.
     return QStringLiteral("%1.%2.%3.%4%5")
