@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: MIT
 #define OX_LOG_FILE "dialogmain"
-#define OX_LOG_FIXED_POSITIONS(position)                                                           \
-    position(GAMMA_CHOSEN, 106) position(GAMMA_FAILED, 111) position(TERMINAL_ENTRY_MISSING, 124)  \
-        position(INSTRUCTION_UNKNOWN, 135) position(UPGRADING_SELF, 555)                           \
-            position(UPGRADING_STANDARD_APPLICATION, 567) position(UPGRADING_OTP_APPLICATION, 571) \
-                position(UPGRADING_FILE_SYSTEM, 579) position(LANGUAGE_CHOSEN, 586)                \
-                    position(PROFILE_NOT_OPENED, 594)
+// clang-format off
+#define OX_LOG_FIXED_POSITIONS(position)                    \
+    position(GAMMA_CHOSEN, 106)                             \
+    position(GAMMA_FAILED, 111)                             \
+    position(TERMINAL_ENTRY_MISSING, 124)                   \
+    position(INSTRUCTION_UNKNOWN, 135)                      \
+    position(UPGRADING_SELF, 555)                           \
+    position(UPGRADING_STANDARD_APPLICATION, 567)           \
+    position(UPGRADING_OTP_APPLICATION, 571)                \
+    position(UPGRADING_FILE_SYSTEM, 579)                    \
+    position(LANGUAGE_CHOSEN, 586)                          \
+    position(PROFILE_NOT_OPENED, 594)
+// clang-format on
 #include "app/dialogmain.h"
 
 #include "app/shellprofile.h"

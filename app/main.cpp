@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #define OX_LOG_FILE "main"
-#define OX_LOG_FIXED_POSITIONS(position)                                                           \
-    position(FONT_FAMILY, 37) position(TOOLKIT_CATALOGUE_MISSING, 43)                              \
-        position(OWN_CATALOGUE_MISSING, 49)
+// clang-format off
+#define OX_LOG_FIXED_POSITIONS(position)                    \
+    position(FONT_FAMILY, 37)                               \
+    position(TOOLKIT_CATALOGUE_MISSING, 43)                 \
+    position(OWN_CATALOGUE_MISSING, 49)
+// clang-format on
 #include "app/dialogmain.h"
 #include "app/globalvars.h"
 #include "app/modalfocusguard.h"
