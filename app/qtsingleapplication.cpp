@@ -6,7 +6,6 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QFileInfo>
 #include <QLocalSocket>
 #include <QThread>
 
@@ -14,11 +13,6 @@
 #include <unistd.h>
 
 namespace {
-
-// A lock older than this whose owner does not hold the kernel's lock on the file is stale,
-// whatever stands in it: a power cut can leave it empty. The time spans the moment between the
-// creation of the file and the kernel's lock on it.
-constexpr int STALE_LOCK_MS = 1000;
 
 constexpr int RETRY_MS = 20;
 constexpr char END_OF_MESSAGE = '\0';
@@ -79,7 +73,6 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled
     Q_ASSERT(guiEnabled);
     Q_UNUSED(guiEnabled)
 
-    m_lock.setStaleLockTime(STALE_LOCK_MS);
     connect(&m_server, &QLocalServer::newConnection, this,
             &QtSingleApplication::answerPendingConnections);
     m_role = takeRole();
@@ -87,10 +80,15 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled
 
 QtSingleApplication::Role QtSingleApplication::takeRole()
 {
-    if (!m_lock.tryLock(0)) {
-        if (m_lock.error() == QLockFile::LockFailedError && !isLockOfAnotherUser())
-            return Role::Second;
-        oxlog::critical(OX_LOG_HERE, QStringLiteral("Locking %1.lock failed.").arg(m_basePath));
+    switch (m_lock.take()) {
+    case InstanceLock::Result::Taken:
+        break;
+    case InstanceLock::Result::Held:
+        return Role::Second;
+    case InstanceLock::Result::Unusable:
+        oxlog::critical(OX_LOG_HERE,
+                        QStringLiteral("Locking %1.lock failed, running without a lock.")
+                            .arg(m_basePath));
         return Role::Alone;
     }
 
@@ -103,14 +101,8 @@ QtSingleApplication::Role QtSingleApplication::takeRole()
     oxlog::critical(OX_LOG_HERE, QStringLiteral("Listening on %1 failed: %2")
                                      .arg(socketPath, m_server.errorString()));
     // Held, it would make every other start wait for an answer in vain.
-    m_lock.unlock();
+    m_lock.release();
     return Role::Alone;
-}
-
-bool QtSingleApplication::isLockOfAnotherUser() const
-{
-    const QFileInfo lock(m_basePath + QStringLiteral(".lock"));
-    return lock.exists() && lock.ownerId() != getuid();
 }
 
 bool QtSingleApplication::sendMessage(const QString &message, int timeout)

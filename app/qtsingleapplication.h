@@ -2,9 +2,10 @@
 // An application object of which one per user runs at a time.
 #pragma once
 
+#include "app/instancelock.h"
+
 #include <QApplication>
 #include <QLocalServer>
-#include <QLockFile>
 
 class QtSingleApplication : public QApplication
 {
@@ -29,11 +30,10 @@ private:
     };
 
     Role takeRole();
-    bool isLockOfAnotherUser() const;
     void answerPendingConnections();
 
     const QString m_basePath;
-    QLockFile m_lock;
+    InstanceLock m_lock;
     QLocalServer m_server;
     Role m_role;
 };

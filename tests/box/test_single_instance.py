@@ -65,6 +65,18 @@ class SingleInstance(unittest.TestCase):
                 tool.stop()
                 wait_until_gone(TITLE)
 
+    def test_something_else_under_the_lock(self):
+        lock = Path('/tmp/moniconf-0.lock')
+        for make in (lambda: os.mkfifo(lock), lambda: lock.symlink_to('/dev/zero')):
+            lock.unlink(missing_ok=True)
+            make()
+            tool = self.start()
+            wait_for_window(TITLE)
+            self.assertTrue(tool.messages('running without a lock'))
+            tool.stop()
+            wait_until_gone(TITLE)
+        lock.unlink()
+
     def test_stopped_instance(self):
         first = self.start()
         wait_for_window(TITLE)

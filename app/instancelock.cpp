@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "app/instancelock.h"
+
+#include <QFile>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+// A file with a second name could be any file of this user's that others may read and so lock.
+bool isOwnFile(int fd)
+{
+    struct stat status = {};
+    return fstat(fd, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == getuid() &&
+           status.st_nlink == 1;
+}
+
+} // namespace
+
+InstanceLock::InstanceLock(const QString &fileName)
+    : m_fileName(QFile::encodeName(fileName))
+{
+}
+
+InstanceLock::~InstanceLock()
+{
+    release();
+}
+
+InstanceLock::Result InstanceLock::take()
+{
+    release();
+    // Looked at once it is open, so that nobody can exchange it in between. Opening follows no
+    // link and waits for nobody at the other end of a pipe; programs started later do not inherit
+    // the lock; and other users, who may not open the file, cannot hold it.
+    m_fd = open(m_fileName.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
+                S_IRUSR | S_IWUSR);
+    if (m_fd != -1 && isOwnFile(m_fd)) {
+        if (flock(m_fd, LOCK_EX | LOCK_NB) == 0)
+            return Result::Taken;
+        if (errno == EWOULDBLOCK) {
+            release();
+            return Result::Held;
+        }
+    }
+    release();
+    return Result::Unusable;
+}
+
+void InstanceLock::release()
+{
+    if (m_fd != -1)
+        close(m_fd);
+    m_fd = -1;
+}
