@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/shellprofile.h"
 
+#define OX_LOG_FILE "shellprofile"
+#include "libOxUtils/utils/log.h"
+
 #include "app/languages.h"
 
 #include <QFile>
@@ -35,9 +38,17 @@ bool writeLocaleLine(const QString &fileName, const QByteArray &line)
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         return false;
 
+    const QByteArray profile = file.readAll();
+    // A file that breaks off in the middle is read without an error, and comes out too short.
+    if (file.error() != QFileDevice::NoError || profile.size() != file.size()) {
+        oxlog::critical(OX_LOG_HERE,
+                        QStringLiteral("Reading %1 failed, nothing is written.").arg(fileName));
+        return true;
+    }
+
     // The lines of LANGUAGES replace each other cleanly, being of one length; what a longer or
     // shorter foreign line leaves behind is accepted.
-    file.seek(localeLineOffset(file.readAll()));
+    file.seek(localeLineOffset(profile));
     file.write(line);
     file.close();
     ::sync();

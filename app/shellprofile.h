@@ -17,5 +17,6 @@ qint64 localeLineOffset(const QByteArray &profile);
 
 // Writes line over what stands at that offset of the file, in place: nothing is cut off or moved,
 // and no line end is added. False when the file cannot be opened for reading and writing; it is
-// not created. Errors of the write itself are not looked at.
+// not created. When it cannot be read to its end, the log says so and nothing is written. Errors of
+// the write itself are not looked at.
 bool writeLocaleLine(const QString &fileName, const QByteArray &line);

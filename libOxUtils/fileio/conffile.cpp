@@ -121,6 +121,12 @@ bool ConfFile::loadToStringList(QStringList &lines)
     QTextStream stream(&file);
     qtversions::useLocaleEncoding(stream);
     const QString text = stream.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        // What has come so far would be saved as the whole file.
+        oxlog::critical(OX_LOG_HERE,
+                        oxlog::quoted(QStringLiteral("Cannot read file: %1!").arg(m_fileName)));
+        return false;
+    }
     file.close();
 
     lines = text.split(QLatin1Char('\n'));

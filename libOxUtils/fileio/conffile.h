@@ -24,8 +24,8 @@ public:
     // Takes the path; nothing is read yet.
     explicit ConfFile(const QString &fileName);
 
-    // Reads the file in place of any earlier content. False: it does not exist or cannot be
-    // opened, and there is no content.
+    // Reads the file in place of any earlier content. False: it does not exist, cannot be opened or
+    // cannot be read to its end, and there is no content.
     bool LoadConf();
 
     // Brings the values into their lines, those of new keys into new lines at the end, and

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/shellprofile.h"
+#include "tests/support/logcapture.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -12,6 +13,7 @@ private slots:
     void localeLines_data();
     void localeLines();
     void missingProfileStaysMissing();
+    void readErrorKeepsProfile();
 };
 
 void TestShellProfile::localeLines_data()
@@ -61,6 +63,15 @@ void TestShellProfile::missingProfileStaysMissing()
     QVERIFY(!QFile::exists(missing));
     QVERIFY(!writeLocaleLine(directory.path(), "x"));
     QCOMPARE(localeLine(QStringLiteral("chinese")), QByteArray("export LANG=en_US.UTF-8"));
+}
+
+void TestShellProfile::readErrorKeepsProfile()
+{
+    // Reading this process's memory from its start fails as a worn-out storage does.
+    const LogCapture log;
+    QVERIFY(writeLocaleLine(QStringLiteral("/proc/self/mem"), "x"));
+    QCOMPARE(log.texts(QStringLiteral("shellprofile")),
+             QStringList(QStringLiteral("C Reading /proc/self/mem failed, nothing is written.")));
 }
 
 QTEST_GUILESS_MAIN(TestShellProfile)

@@ -117,6 +117,12 @@ void TestConfFile::failures()
         QCOMPARE(log.messages().at(2).function, text("bool ConfFile::SaveConf()"));
     }
     QVERIFY(!QFile::exists(missing));
+
+    // Reading this process's memory from its start fails as a worn-out storage does.
+    const LogCapture log;
+    QVERIFY(!ConfFile(text("/proc/self/mem")).LoadConf());
+    QCOMPARE(log.texts(LOG_FILE), QStringList({text("C \"Cannot read file: /proc/self/mem!\""),
+                                               text("C Loading file failed...")}));
 }
 
 QTEST_GUILESS_MAIN(TestConfFile)
