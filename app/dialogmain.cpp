@@ -15,6 +15,7 @@
 // clang-format on
 #include "app/dialogmain.h"
 
+#include "app/heldsignals.h"
 #include "app/shellprofile.h"
 #include "app/shortenedmessage.h"
 #include "app/terminalentry.h"
@@ -251,6 +252,8 @@ void DialogMain::btnApply_clicked(bool /*checked*/)
     if (!parseItem(wanted, selectedItem()) || isSameSize(wanted, m_curResolution))
         return;
 
+    // A program that ended before the answer would leave a mode that perhaps cannot be seen.
+    const HeldSignals untilAnswered;
     // The new mode comes first and the question after it, so that the user judges what can be seen.
     switchScreen(wanted);
     DialogConfirm dialog(this);

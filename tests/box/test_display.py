@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Modes, through the real window: chosen, kept, taken back."""
 
+import signal
 import subprocess
 import unittest
 from pathlib import Path
@@ -26,6 +27,13 @@ class Display(unittest.TestCase):
         click_row(window, row)
         click(window, *APPLY)
         return wait_for_window('Information')
+
+    def stand_in(self, command, action):
+        """Has a command do something of the test's before its own work."""
+        script = Path('/usr/local/bin', command)
+        self.addCleanup(script.unlink, missing_ok=True)
+        script.write_text(f'#!/bin/sh\n{action}; exec /usr/bin/{command} "$@"\n')
+        script.chmod(0o755)
 
     @staticmethod
     def is_on_screen(window):
@@ -82,6 +90,49 @@ class Display(unittest.TestCase):
         self.assertEqual(screen_size(), '1024x768')
         self.assertEqual(stored_mode(), '1920x1080M@60')
 
+    def test_signals_while_asking(self):
+        for number in (signal.SIGHUP, signal.SIGINT, signal.SIGTERM):
+            with self.subTest(number):
+                self.apply(0)
+                self.tool.process.send_signal(number)
+                self.assertEqual(self.tool.wait_for_end(), -number)
+                self.assertEqual(screen_size(), '1920x1080')
+                self.tool = driver.Tool()
+                self.addCleanup(self.tool.stop)
+                wait_for_window('Display Settings')
+        self.assertEqual(stored_mode(), '1920x1080M@60')
+        self.tool.process.send_signal(signal.SIGINT)
+        self.assertEqual(self.tool.wait_for_end(), -signal.SIGINT)
+
+    def test_signals_while_commands_run(self):
+        for command, end, stored, screen in (('xrandr', 'true', '1920x1080M@60', '1920x1080'),
+                                             ('fw_setenv', 'exit 1', '1920x1080M@60', '800x600'),
+                                             ('fw_setenv', 'true', '800x600@60', '800x600')):
+            with self.subTest(command, end=end):
+                subprocess.run(['xrandr', '-s', '1920x1080', '-r', '60'], check=True)
+                self.stand_in(command, f'kill -TERM {self.tool.process.pid} 2>/dev/null; {end}')
+                window = wait_for_window('Display Settings')
+                click_row(window, 0)
+                click(window, *APPLY)
+                if command == 'fw_setenv':
+                    wait_for_window('Information')
+                    keys('Tab', 'space')
+                self.assertEqual(self.tool.wait_for_end(), -signal.SIGTERM)
+                Path('/usr/local/bin', command).unlink()
+                self.assertEqual((stored_mode(), screen_size()), (stored, screen))
+                self.tool = driver.Tool()
+                self.addCleanup(self.tool.stop)
+
+    def test_ignored_signal(self):
+        self.tool.stop()
+        self.addCleanup(signal.signal, signal.SIGHUP, signal.signal(signal.SIGHUP, signal.SIG_IGN))
+        self.tool = driver.Tool()
+        self.addCleanup(self.tool.stop)
+        self.apply(0)
+        self.tool.process.send_signal(signal.SIGHUP)
+        keys('Tab', 'space')
+        wait_for(lambda: stored_mode() == '800x600@60', 'stored mode')
+
     def test_other_monitor_and_none(self):
         window = wait_for_window('Display Settings')
         keys('Tab')
@@ -103,10 +154,7 @@ class Display(unittest.TestCase):
 
     def test_child_processes_are_spared_the_toolkit_setting(self):
         window = wait_for_window('Display Settings')
-        probe = Path('/usr/local/bin/xrandr')
-        self.addCleanup(probe.unlink)
-        probe.write_text('#!/bin/sh\nenv >/tmp/environment; exec /usr/bin/xrandr "$@"\n')
-        probe.chmod(0o755)
+        self.stand_in('xrandr', 'env >/tmp/environment')
         click_row(window, 0)
         click(window, *APPLY)
         wait_for_window('Information')

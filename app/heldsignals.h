@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSocketNotifier>
+
+#include <array>
+
+#include <csignal>
+
+// Holds back the signals that ask a program to end (SIGHUP, SIGINT, SIGTERM) while it lives. One
+// that arrives rejects the modal dialog that is open or opens next, and ends the program when this
+// object is destroyed, as it would have ended it at once. Signals that are ignored, SIGHUP under
+// nohup for one, stay so. Lives on the GUI thread, one at a time.
+class HeldSignals
+{
+public:
+    HeldSignals();
+    ~HeldSignals();
+    Q_DISABLE_COPY(HeldSignals)
+
+private:
+    void rejectOpenDialog();
+
+    static constexpr std::array<int, 3> SIGNALS = {SIGHUP, SIGINT, SIGTERM};
+
+    std::array<struct sigaction, SIGNALS.size()> m_before;
+    QSocketNotifier m_arrival;
+};
