@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Barcode: %1</source>
-        <translation>条形码：%1</translation>
+        <translation>产品条码：%1</translation>
     </message>
     <message>
         <source>Rootfs Version: %1</source>
@@ -53,26 +53,26 @@
     </message>
     <message>
         <source>The display will be reset to its previous configuration in 30 seconds</source>
-        <translation>显示将在 30 秒后还原为之前的设置</translation>
+        <translation>30 秒后将恢复之前的显示设置</translation>
     </message>
     <message>
         <source>Restore Previous Configuration</source>
-        <translation>还原之前的设置</translation>
+        <translation>恢复之前的设置</translation>
     </message>
     <message>
         <source>Keep This Configuration</source>
-        <translation>保留此设置</translation>
+        <translation>保留当前设置</translation>
     </message>
     <message>
         <source>The display will be reset to its previous configuration in %1 seconds</source>
-        <translation>显示将在 %1 秒后还原为之前的设置</translation>
+        <translation>%1 秒后将恢复之前的显示设置</translation>
     </message>
 </context>
 <context>
     <name>DialogFanTempParam</name>
     <message>
         <source>Parameter Input Dialog</source>
-        <translation>参数输入</translation>
+        <translation>风扇温度设置</translation>
     </message>
     <message>
         <source>Temperature Lower Threshold:</source>
@@ -170,16 +170,16 @@
     </message>
     <message>
         <source>Please Input Instruction</source>
-        <translation>请输入指令</translation>
+        <translation>输入指令</translation>
     </message>
     <message>
         <source>The feature is protected by instruction!</source>
-        <translation>此功能需要输入指令！</translation>
+        <translation>此功能受保护，请输入指令：</translation>
     </message>
     <message>
         <source>Unkown instruction!</source>
         <extracomment>The misspelling is part of the interface: the English catalogue keeps it.</extracomment>
-        <translation>未知指令！</translation>
+        <translation>指令无效！</translation>
     </message>
     <message>
         <source>vexastd</source>
@@ -206,15 +206,15 @@
     </message>
     <message>
         <source>Parameters have been changed, reboot to take effect.</source>
-        <translation>参数已更改，重新启动后生效。</translation>
+        <translation>参数已更改，重启后生效。</translation>
     </message>
     <message>
         <source>Cannot parse resolution string.</source>
-        <translation>无法解析分辨率。</translation>
+        <translation>无法识别分辨率，请先选择一项。</translation>
     </message>
     <message>
         <source>Setting date time failed.</source>
-        <translation>设置日期和时间失败。</translation>
+        <translation>日期和时间设置失败。</translation>
     </message>
     <message>
         <source>Cannot read edid information.</source>
@@ -222,11 +222,11 @@
     </message>
     <message>
         <source>Parsing edid information failed.</source>
-        <translation>解析 EDID 信息失败。</translation>
+        <translation>无法解析 EDID 信息。</translation>
     </message>
     <message>
         <source>Getting current display information failed.</source>
-        <translation>获取当前显示信息失败。</translation>
+        <translation>无法获取当前显示信息。</translation>
     </message>
     <message>
         <source>Please select application</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>Auto Start Application</source>
-        <translation>自动启动的应用程序</translation>
+        <translation>开机自启动应用程序</translation>
     </message>
     <message>
         <source>vexastd</source>
@@ -259,7 +259,7 @@
     </message>
     <message>
         <source>Setting auto boot application failed.</source>
-        <translation>设置自动启动的应用程序失败。</translation>
+        <translation>设置开机自启动应用程序失败。</translation>
     </message>
 </context>
 </TS>
