@@ -24,9 +24,13 @@ check-qt6:
 	cmake --build --preset qt6 -j $(JOBS)
 	ctest --test-dir build/qt6 --output-on-failure -j $(JOBS)
 
-# A picture of every window in both languages, and those of README and manual.
-screenshots: build
-	docs/screenshots.py $(BUILD) build/screenshots
+# A picture of every window in both languages, and those of README and manuals, of a program whose
+# version is always the same.
+screenshots: export SOURCE_DATE_EPOCH := 1768441287
+screenshots: packages
+	cmake --preset release -B build/pictures -DBUILD_TESTING=OFF
+	cmake --build build/pictures -j $(JOBS)
+	docs/screenshots.py build/pictures build/screenshots
 
 build: packages
 	cmake --preset release -DMONICONF_WERROR=$(WERROR)
