@@ -45,6 +45,7 @@ constexpr int freeLine(int line)
 #ifndef OX_LOG_FIXED_POSITIONS
 #    define OX_LOG_FIXED_POSITIONS(position)
 #endif
+// A name that is declared stands without parentheses. NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define OX_LOG_POSITION(name, line) constexpr int name = line;
 #define OX_LOG_IS_NOT_AT(name, line) &&__LINE__ != (line)
 
