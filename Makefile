@@ -6,8 +6,11 @@ JOBS := $(shell nproc)
 WERROR := OFF
 PACKAGES := build/packages
 SYSROOT := build/sysroot-armhf
+# Those that packages are made for, this machine's first.
+ARCHITECTURES = $(shell dpkg --print-architecture)
 
-.PHONY: run check check-qt6 screenshots lint packages build package check-package check-armhf package-tools
+.PHONY: run check check-all check-asan check-qt6 check-armhf check-package check-reproducible check-source \
+	screenshots lint packages build package package-tools armhf-tools
 
 # The tool in the simulated box, in a browser page, on a screen small enough to be read there.
 run: build
@@ -16,6 +19,15 @@ run: build
 # Every test: units, dialogs, and the real program in the simulated box.
 check: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+# All that there is, for before a release; takes long, and downloads much.
+check-all: check lint check-asan check-qt6 check-armhf check-board check-reproducible check-source
+
+# The tests, with AddressSanitizer and UBSan.
+check-asan: packages
+	cmake --preset asan
+	cmake --build --preset asan -j $(JOBS)
+	ctest --test-dir build/asan --output-on-failure -j $(JOBS)
 
 # The same with Qt 6 in place of Qt 5.
 check-qt6:
@@ -44,6 +56,7 @@ lint:
 	packaging/install-build-packages packaging/build-packages.txt packaging/lint-packages.txt
 	cmake --preset dev
 	cmake --build --preset dev -j $(JOBS)
+	reuse lint
 	clang-format --dry-run -Werror $$(git ls-files '*.cpp' '*.h')
 	run-clang-tidy -quiet -p build/dev $$(git ls-files '*.cpp' | grep -v ^tests/)
 	cppcheck --quiet --inline-suppr --error-exitcode=1 --enable=warning,performance,portability \
@@ -51,15 +64,28 @@ lint:
 
 # Debian packages for this kind of machine and for the box, checked; they are in build/packages.
 package: $(SYSROOT)/complete
-	packaging/build-package amd64 $(PACKAGES)
-	packaging/build-package armhf $(PACKAGES) $(SYSROOT)
-	desktop-file-validate packaging/moniconf.desktop
-	lintian --fail-on error,warning $(PACKAGES)/*.deb
-	$(MAKE) check-package
+	$(MAKE) check-package ARCHITECTURES="$(ARCHITECTURES) armhf"
 
-# The package installed, used and removed in the simulated box.
-check-package:
-	simbox/simbox --package $(PACKAGES)/moniconf_*_amd64.deb exec tests/box/test_package.py
+# The source package and that for this kind of machine, which is used and removed in the simulated box.
+check-package: package-tools
+	SYSROOT=$(SYSROOT) packaging/build-package $(PACKAGES) $(ARCHITECTURES)
+	lintian --fail-on error,warning $(PACKAGES)/*.changes
+	desktop-file-validate packaging/moniconf.desktop
+	appstreamcli validate --no-net $(PACKAGES)/moniconf-*/obj-*/packaging/*.metainfo.xml
+	package=$$(ls $(PACKAGES)/moniconf_*_$(firstword $(ARCHITECTURES)).deb) && \
+		simbox/simbox --otp --package "$$package" exec tests/box/test_package.py "$$package"
+
+# Packages made a second time, elsewhere, are the same to the byte.
+check-reproducible: package
+	SYSROOT=$(SYSROOT) packaging/build-package $(PACKAGES)-again $(ARCHITECTURES) armhf
+	for file in $(PACKAGES)/*.xz $(PACKAGES)/*.deb; do \
+		cmp "$$file" "$(PACKAGES)-again/$${file##*/}" || exit; \
+	done
+	sha256sum $(PACKAGES)/*.deb
+
+# The source package, built and tested in a Debian that holds nothing else.
+check-source: package
+	packaging/build-in-chroot $(PACKAGES)
 
 # The unit tests and the program, built for the box and run by an emulator of its processor.
 check-armhf: $(SYSROOT)/complete
@@ -68,8 +94,11 @@ check-armhf: $(SYSROOT)/complete
 	ctest --test-dir build/armhf --output-on-failure -j $(JOBS) -R ^unit
 	packaging/run-armhf $(SYSROOT) build/armhf/moniconf -v
 
-$(SYSROOT)/complete: packaging/make-sysroot | package-tools
+$(SYSROOT)/complete: packaging/make-sysroot | armhf-tools
 	packaging/make-sysroot $(SYSROOT)
 
 package-tools:
 	packaging/install-build-packages packaging/build-packages.txt packaging/package-packages.txt
+
+armhf-tools: package-tools
+	packaging/install-build-packages packaging/armhf-packages.txt

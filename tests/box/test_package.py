@@ -1,8 +1,12 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""The installed package: there, started from its desktop entry, used and removed."""
+"""The installed package: there, started from its desktop entry, used, upgraded and removed.
+
+Its file is the argument.
+"""
 
 import subprocess
+import sys
 import unittest
 from pathlib import Path
 
@@ -14,7 +18,12 @@ import driver  # noqa: E402
 from driver import keys, wait_for, wait_for_window, wait_until_gone  # noqa: E402
 
 HOME = Path('/opt/moniconf')
+SHELL = Path('/usr/local/bin/sh')
 LOG = Path('/tmp/entry.log')
+
+
+def dpkg(*words):
+    subprocess.run(['dpkg', *words], capture_output=True, check=True)
 
 
 def launch(entry):
@@ -33,6 +42,12 @@ class Package(unittest.TestCase):
         self.assertEqual(list(Path('/var/lib/dpkg/info').glob('moniconf.*inst')), [])
         self.assertRegex(driver.output('/usr/bin/moniconf', '-v'), r'^moniconf 1\.2\.')
 
+        # The shell that Preference takes, as the package tells how to get it.
+        SHELL.unlink()
+        advice = Path('/usr/share/doc/moniconf/README.Debian').read_text()
+        subprocess.run(next(line for line in advice.split('\n') if line.startswith('    ')),
+                       shell=True, check=True)
+
         entry = next(str(file) for file in files if file.suffix == '.desktop')
         self.assertTrue(launch(entry))
         window = wait_for_window('Display Settings')
@@ -41,17 +56,26 @@ class Package(unittest.TestCase):
         wait_for_window('Information')
         keys('Tab', 'space')
         wait_for(lambda: driver.stored_mode() == '800x600@60', 'stored mode')
+        window = wait_for_window('Display Settings')
+        driver.choose(window, 'Preference')
+        wait_for_window('Preference')
+        keys('Right', 'Return')
+        wait_until_gone('Preference')
         wait_for_window('Display Settings')
         keys('Escape')
         wait_until_gone('Display Settings')
         self.assertIn('debug main:37 main: ', LOG.read_text())
         self.assertNotIn('moniconf_en_US.qm failed', LOG.read_text())
 
-        (HOME / 'ui.ini').write_text('[Preference]\nAutoStartApp=1\n')
-        subprocess.run(['dpkg', '--purge', 'moniconf'], capture_output=True, check=True)
+        settings = HOME / 'ui.ini'
+        for step in ('--install', sys.argv[1]), ('--remove', 'moniconf'):
+            dpkg(*step)
+            self.assertEqual(settings.read_text(), '[Preference]\nAutoStartApp=1\n')
+        self.assertEqual(list(HOME.iterdir()), [settings])
+        dpkg('--purge', 'moniconf')
         self.assertEqual([file for file in files if file.exists() or file.is_symlink()], [])
-        self.assertEqual(list(HOME.iterdir()), [HOME / 'ui.ini'])
+        self.assertFalse(HOME.exists())
 
 
 if __name__ == '__main__':
-    unittest.main()
+    unittest.main(argv=sys.argv[:1])
