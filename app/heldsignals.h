@@ -23,6 +23,6 @@ private:
 
     static constexpr std::array<int, 3> SIGNALS = {SIGHUP, SIGINT, SIGTERM};
 
-    std::array<struct sigaction, SIGNALS.size()> m_before;
+    std::array<struct sigaction, SIGNALS.size()> m_before{};
     QSocketNotifier m_arrival;
 };
