@@ -24,8 +24,10 @@
 #include "display/dialogconfirm.h"
 #include "display/dialoggamma.h"
 #include "display/edidfetch.h"
+#include "display/fbdevice.h"
 #include "display/modetext.h"
-#include "display/screengamma.h"
+#include "display/monitor/edid.h"
+#include "display/monitor/modes.h"
 #include "display/screenkeeper.h"
 #include "libOxUtils/utils/commandline.h"
 #include "libOxUtils/utils/log.h"
@@ -34,6 +36,7 @@
 #include "maintenance/dialogfantempparam.h"
 #include "maintenance/dialogpreference.h"
 #include "maintenance/identity/productbarcode.h"
+#include "maintenance/outcome.h"
 #include "ui_dialogmain.h"
 
 #include <QContextMenuEvent>
@@ -114,8 +117,8 @@ void DialogMain::initConnections()
 
 void DialogMain::readProductFlags()
 {
-    // Read from the file a second time: the window answers for its own menu, whatever start-up
-    // found.
+    // Read from the file again, and not taken from start-up's globals: the menu shows what the file
+    // holds when the window is made.
     m_productFlags = 0;
     ProductBarcode::T_Barcode barcode;
     if (ProductBarcode::ReadBarcode(barcode))
@@ -181,17 +184,13 @@ void DialogMain::promptForInstruction(const oxlog::Site &loadSite, const oxlog::
     if (typed.isEmpty())
         return;
 
-    switch (followInstruction(typed)) {
-    case InstructionResult::NoEntry:
+    const InstructionResult result = followInstruction(typed);
+    if (result == InstructionResult::NoEntry) {
         oxlog::critical(loadSite, QStringLiteral("Loading configure file failed."));
-        break;
-    case InstructionResult::Unknown:
-        //: The misspelling is part of the interface: the English catalogue keeps it.
+    } else if (result == InstructionResult::Unknown) {
+        //: The misspelling is part of the interface: the English text keeps it.
         showError(tr("Unkown instruction!"));
         oxlog::debug(unknownSite, QStringLiteral("Unkown instruction: '%1'!").arg(typed));
-        break;
-    case InstructionResult::Followed:
-        break;
     }
 }
 
@@ -220,13 +219,14 @@ void DialogMain::actionPreference_triggered()
 
 void DialogMain::actionFactoryReset_triggered()
 {
-    //: The missing word is part of the interface: the English catalogue keeps the text as it is.
+    //: The missing word is part of the interface: the English text keeps it so.
     const QString question = tr("Are sure to factory reset?");
     if (QMessageBox::question(this, tr("Query"), question, QMessageBox::Yes | QMessageBox::No,
                               QMessageBox::No) != QMessageBox::Yes)
         return;
 
-    // Both are on offer whatever the product's flags, unlike for an upgrade; that is intended.
+    // Both are on offer, unlike for an upgrade: settings can be left of an application that the
+    // product's flags do not name.
     const QString chosen = askForApplication(tr("Factory Reset"), {tr("vexastd"), tr("vxotp")});
     if (!chosen.isEmpty())
         removeSettings(chosen == tr("vexastd") ? standardApplication() : otpApplication());
@@ -328,13 +328,8 @@ int DialogMain::get_cur_display_info(T_Resolution &resolution)
 
 int DialogMain::readEdid(unsigned char *edid)
 {
+    const DdcLines lines;
     return fetchEdid(edid);
-}
-
-int DialogMain::readEdidOverSwitchedLines(unsigned char *edid)
-{
-    const DdcLines ledToTheirBuses;
-    return readEdid(edid);
 }
 
 void DialogMain::listAllResolutions()
@@ -346,7 +341,7 @@ void DialogMain::listMonitorResolutions()
 {
     unsigned char edid[EDID_BLOCK_SIZE] = {};
     T_NativeTiming native;
-    if (readEdidOverSwitchedLines(edid) != 0) {
+    if (readEdid(edid) != 0) {
         showError(tr("Cannot read edid information."));
     } else if (getNativeTiming(edid, native) != 0) {
         showError(tr("Parsing edid information failed."));

@@ -12,7 +12,7 @@
 
 namespace {
 
-// All that the handler touches, since it runs on any thread in the middle of anything.
+// The handler touches these alone: it can interrupt any code, on any thread.
 std::atomic<int> arrived{0};
 std::atomic<int> wakeUp{-1};
 static_assert(std::atomic<int>::is_always_lock_free);
@@ -56,8 +56,8 @@ HeldSignals::~HeldSignals()
 {
     for (std::size_t i = 0; i < SIGNALS.size(); ++i)
         sigaction(SIGNALS[i], &m_before[i], nullptr);
-    if (arrived != 0)
-        raise(arrived);
+    if (const int number = arrived.exchange(0))
+        raise(number);
 }
 
 void HeldSignals::rejectOpenDialog()
@@ -66,6 +66,7 @@ void HeldSignals::rejectOpenDialog()
     // One that has just been answered is no longer open; another may follow.
     if (!dialog)
         return;
-    m_arrival.setEnabled(false);
+    eventfd_t ignored = 0;
+    eventfd_read(wakeUp, &ignored);
     dialog->reject();
 }

@@ -10,7 +10,8 @@
 // Holds back the signals that ask a program to end (SIGHUP, SIGINT, SIGTERM) while it lives. One
 // that arrives rejects the modal dialog that is open or opens next, and ends the program when this
 // object is destroyed, as it would have ended it at once. Signals that are ignored, SIGHUP under
-// nohup for one, stay so. Lives on the GUI thread, one at a time.
+// nohup for one, stay so; and the C library ignores SIGINT while its system() runs a command. Lives
+// on the GUI thread, one at a time.
 class HeldSignals
 {
 public:

@@ -7,7 +7,7 @@
 // The lock that one instance holds. The kernel keeps it and ends it with the process, however that
 // ends: what a crash or a power cut leaves behind is a file and no lock. The file itself is never
 // read, written or removed. Its directory may be everybody's, so what stands under its name may be
-// another user's trap.
+// a pipe, a link or a file of another user's.
 class InstanceLock
 {
 public:

@@ -2,8 +2,6 @@
 // The languages that the window offers. Build, tests and the simulated box read this table as well.
 #pragma once
 
-#include <cstddef>
-#include <iterator>
 #include <string_view>
 
 struct Language
@@ -19,6 +17,7 @@ inline constexpr Language LANGUAGES[] = {
 
 // The language that counts when the box shows anything that is no item of the table.
 inline constexpr const Language &FALLBACK_LANGUAGE = LANGUAGES[1];
+static_assert(std::string_view(FALLBACK_LANGUAGE.item) == "English");
 
 constexpr bool areLocaleLinesOfOneLength()
 {

@@ -121,6 +121,8 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
         QThread::msleep(RETRY_MS);
         m_role = takeRole();
     }
+    if (m_role == Role::Second)
+        oxlog::critical(OX_LOG_HERE, QStringLiteral("The running instance gives no answer."));
     return false;
 }
 

@@ -32,7 +32,7 @@ void ResolutionList::focusInEvent(QFocusEvent *event)
         QListWidget::focusInEvent(event);
         return;
     }
-    // What lies between is the toolkit's choice of a row.
+    // The class between would choose a row here.
     QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
 }

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <iterator>
 #include <unistd.h>
 
 QByteArray localeLine(const QString &item)

@@ -8,7 +8,8 @@
 inline constexpr char SHELL_PROFILE[] = "/etc/profile";
 
 // The line that a choice in the language box stands for. The choice is compared with the
-// untranslated items of LANGUAGES; everything else, a translation of one included, means English.
+// untranslated items of LANGUAGES; everything else, a translation of one included, means the
+// fallback, English.
 QByteArray localeLine(const QString &item);
 
 // The offset in bytes at which the locale line is written: the start of the first line that holds

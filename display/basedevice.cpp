@@ -49,9 +49,8 @@ QString BaseDevice::GetErrorString() const
     return m_errorString;
 }
 
-// The loops of WriteBytes and ReadBytes have no limit. The board's switch can refuse for as long as
-// its driver is busy, and half a transfer would leave the lines in an unknown state: a device that
-// keeps failing keeps the caller.
+// The loops of WriteBytes and ReadBytes have no limit: half a transfer is never handed on, so a
+// device that keeps failing keeps the caller.
 
 int BaseDevice::WriteBytes(const char *data, int len)
 {

@@ -108,11 +108,21 @@ bool FbDevice::GetVarScreenInfo()
     };
     write("xres", info.xres);
     write("yres", info.yres);
-    write("xres_virturl", info.xres_virtual); // the spelling is known and stays
+    write("xres_virturl", info.xres_virtual); // so spelt in the log
     write("yres_virtual", info.yres_virtual);
     write("xoffset", info.xoffset);
     write("yoffset", info.yoffset);
     write("bits_per_pixel", info.bits_per_pixel);
     write("grayscale", info.grayscale);
     return true;
+}
+
+bool setScreenGamma(float gamma)
+{
+    FbDevice *const framebuffer = FbDevice::Instance();
+    // Not checked: without an open device the next step fails.
+    framebuffer->OpenDevice(FbDevice::DEV_NAME);
+    const bool isSet = framebuffer->SetGamma(gamma);
+    framebuffer->CloseDevice();
+    return isSet;
 }

@@ -41,3 +41,7 @@ private:
     int m_fd = -1;
     QString m_name; // given to the last OpenDevice
 };
+
+// Gives the box's framebuffer the curve for a gamma, any float. False when it does not take it; the
+// log then says why.
+bool setScreenGamma(float gamma);

@@ -20,8 +20,7 @@ ModeTextResult parseModeText(const QString &text, DisplayMode &mode)
         mode.height = cleaned.mid(x + 1).trimmed().toUInt(&ok);
         mode.refreshRate = STANDARD_REFRESH_HZ;
     } else {
-        // A bad height passes as 0: the mode then has a size that no list holds, and the user picks
-        // another one.
+        // A bad height passes as 0: the mode then has a size that no list holds.
         mode.height = cleaned.mid(x + 1, at - x - 1).toUInt();
         mode.refreshRate = cleaned.mid(at + 1).toUInt(&ok);
     }

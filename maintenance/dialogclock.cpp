@@ -23,7 +23,7 @@ Outcome DialogClock::Run(QWidget *parent, const oxlog::Site &caller)
     // Without a copy there is nothing to clear away, and the log alone is told.
     if (result == ScriptResult::CopyFailed)
         return Outcome::Nothing;
-    QFile::remove(QStringLiteral("/tmp/calclock.sh"));
+    QFile::remove(CLOCK_SCRIPT_COPY);
     return result == ScriptResult::Done ? Outcome::Done : Outcome::Failed;
 }
 

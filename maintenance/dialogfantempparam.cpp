@@ -13,7 +13,7 @@ const QString LOWER_KEY = QStringLiteral("temp_threshold_lower");
 const QString UPPER_KEY = QStringLiteral("temp_threshold_upper");
 
 // 0 for what is no number; the spin box brings it into its range.
-int threshold(const QString &text)
+int toThreshold(const QString &text)
 {
     const uint highest = std::numeric_limits<int>::max();
     return static_cast<int>(std::min(text.toUInt(), highest));
@@ -28,7 +28,8 @@ Outcome DialogFanTempParam::Run(QWidget *parent)
         return Outcome::Nothing;
 
     DialogFanTempParam dialog(parent);
-    dialog.SetThresholds(threshold(conf.GetValue(LOWER_KEY)), threshold(conf.GetValue(UPPER_KEY)));
+    dialog.SetThresholds(toThreshold(conf.GetValue(LOWER_KEY)),
+                         toThreshold(conf.GetValue(UPPER_KEY)));
     if (dialog.exec() != QDialog::Accepted)
         return Outcome::Nothing;
 

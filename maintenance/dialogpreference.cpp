@@ -15,8 +15,8 @@
 namespace {
 
 // The values of the setting "AutoStartApp"; any other than 0 is read as the OTP application.
-constexpr int STANDARD_APPLICATION = 0;
-constexpr int OTP_APPLICATION = 1;
+constexpr int STARTS_STANDARD = 0;
+constexpr int STARTS_OTP = 1;
 
 QString settingsFile()
 {
@@ -54,10 +54,9 @@ void DialogPreference::buttonBox_clicked(QAbstractButton *button)
         return;
     }
 
-    // This removes the copy of the clock's script, not of this one, which stays in /tmp until the
-    // next run replaces it. It began as a slip and stays: what a run leaves in /tmp is compared
-    // file by file when a box is checked.
-    QFile::remove(QStringLiteral("/tmp/calclock.sh"));
+    // This removes the clock script's copy and leaves this one's, which the next run replaces. Both
+    // are what a box is expected to hold after a run.
+    QFile::remove(CLOCK_SCRIPT_COPY);
 
     if (result == ScriptResult::RunFailed) {
         QMessageBox::critical(this, tr("Error"), tr("Setting auto boot application failed."));
@@ -83,7 +82,7 @@ void DialogPreference::LoadPreference()
 {
     QSettings settings(settingsFile(), QSettings::IniFormat);
     settings.beginGroup(QStringLiteral("Preference"));
-    if (settings.value(QStringLiteral("AutoStartApp")).toInt() != STANDARD_APPLICATION)
+    if (settings.value(QStringLiteral("AutoStartApp")).toInt() != STARTS_STANDARD)
         ui->m_rdoVxotp->setChecked(true);
     else
         ui->m_rdoVexastd->setChecked(true);
@@ -95,6 +94,6 @@ void DialogPreference::SavePreference()
     QSettings settings(settingsFile(), QSettings::IniFormat);
     settings.beginGroup(QStringLiteral("Preference"));
     settings.setValue(QStringLiteral("AutoStartApp"),
-                      ui->m_rdoVexastd->isChecked() ? STANDARD_APPLICATION : OTP_APPLICATION);
+                      ui->m_rdoVexastd->isChecked() ? STARTS_STANDARD : STARTS_OTP);
     settings.endGroup();
 }

@@ -5,6 +5,9 @@
 
 #include <QStringList>
 
+// Where the clock's script is copied to.
+const QString CLOCK_SCRIPT_COPY = QStringLiteral("/tmp/calclock.sh");
+
 enum class ScriptResult {
     CopyFailed, // told to the log
     RunFailed,  // did not start, or did not end with status 0
@@ -12,7 +15,7 @@ enum class ScriptResult {
 };
 
 // Copies the script of that name from the root of the resource tree into /tmp, over a copy that an
-// earlier run left, and runs it through sh with the arguments, in the program's own directory and
+// earlier run left, and runs it through sh with the arguments, in the current directory and
 // for as long as it takes. The pointer is a wait cursor meanwhile. The copy is left to the caller,
 // and so is the message to the user; a failed copy is logged in the caller's name.
 ScriptResult runEmbeddedScript(const QString &name, const QStringList &arguments,

@@ -178,7 +178,7 @@
     </message>
     <message>
         <source>Unkown instruction!</source>
-        <extracomment>The misspelling is part of the interface: the English catalogue keeps it.</extracomment>
+        <extracomment>The misspelling is part of the interface: the English text keeps it.</extracomment>
         <translation>指令无效！</translation>
     </message>
     <message>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Are sure to factory reset?</source>
-        <extracomment>The missing word is part of the interface: the English catalogue keeps the text as it is.</extracomment>
+        <extracomment>The missing word is part of the interface: the English text keeps it so.</extracomment>
         <translation>确定要恢复出厂设置吗？</translation>
     </message>
     <message>

@@ -52,8 +52,7 @@ constexpr int MIN_HORIZONTAL_KHZ = 7;
 constexpr int MAX_HORIZONTAL_KHZ = 8;
 constexpr int MAX_CLOCK_10MHZ = 9;
 
-// Bit 7 of the first byte first. The last two have no unit: scripts compare these lines
-// as they are.
+// Bit 7 of the first byte first. The last two have no unit, a fixed part of the output.
 constexpr const char *ESTABLISHED_TIMING_LINES[] = {
     "\t720x400\t\t70 Hz (VGA 640x400, IBM)\n",
     "\t720x400\t\t88 Hz (XGA2)\n",
@@ -139,8 +138,7 @@ std::uint32_t serialNumberOf(const unsigned char *edid, const std::string &manuf
         littleEndian16(edid + SERIAL_NUMBER) | littleEndian16(edid + SERIAL_NUMBER + 2) << 16;
     if (serialNumber == NO_SERIAL_NUMBER)
         return serialNumber;
-    // Three makers count from a number of their own. A smaller one wraps, so that no two
-    // monitors get the same number.
+    // Three makers count from a number of their own. A smaller one wraps.
     if (manufacturer == "MAG")
         return serialNumber - 117440512;
     if (manufacturer == "OQI")
@@ -181,7 +179,7 @@ std::string displayText(const unsigned char *edid)
 
 std::string establishedTimingsText(const unsigned char *edid)
 {
-    std::string text = "Estabilished timings:\n"; // so spelt in every dump so far
+    std::string text = "Estabilished timings:\n"; // so spelt, a fixed part of the output
     int index = 0;
     for (const char *timing : ESTABLISHED_TIMING_LINES) {
         if ((edid[ESTABLISHED_TIMINGS + index / 8] & 0x80 >> index % 8) != 0)

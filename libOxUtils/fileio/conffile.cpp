@@ -3,7 +3,6 @@
 
 #define OX_LOG_FILE "libOxUtils/fileio/conffile"
 #include "libOxUtils/utils/log.h"
-#include "libOxUtils/utils/qtversions.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -119,7 +118,6 @@ bool ConfFile::loadToStringList(QStringList &lines)
     if (!openExisting(file, QIODevice::ReadOnly, OX_LOG_HERE))
         return false;
     QTextStream stream(&file);
-    qtversions::useLocaleEncoding(stream);
     const QString text = stream.readAll();
     if (file.error() != QFileDevice::NoError) {
         // What has come so far would be saved as the whole file.
@@ -143,7 +141,6 @@ bool ConfFile::saveFromStringList(const QStringList &lines)
     // As one text, so that the file stands truncated for as short as possible: the box may lose
     // power right after a setting is changed.
     QTextStream stream(&file);
-    qtversions::useLocaleEncoding(stream);
     stream << lines.join(QLatin1Char('\n'));
     stream.flush();
     file.close();

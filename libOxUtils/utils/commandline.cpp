@@ -10,18 +10,14 @@
 
 void startCommand(QProcess &process, const QString &command)
 {
-    QStringList words = QProcess::splitCommand(command);
-    const QString program = words.isEmpty() ? QString() : words.takeFirst();
-    process.start(program, words, QIODevice::ReadWrite);
+    const QStringList words = QProcess::splitCommand(command);
+    process.start(words.value(0), words.mid(1), QIODevice::ReadWrite);
 }
 
 bool startDetachedCommand(const QString &command)
 {
-    QStringList words = QProcess::splitCommand(command);
-    if (words.isEmpty())
-        return false;
-    const QString program = words.takeFirst();
-    return QProcess::startDetached(program, words);
+    const QStringList words = QProcess::splitCommand(command);
+    return QProcess::startDetached(words.value(0), words.mid(1));
 }
 
 #else

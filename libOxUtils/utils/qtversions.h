@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The toolkit's versions, from 5.11 to 6, differ in what stands here and nowhere else.
+// What differs between the toolkit's versions, from 5.11 to 6; only commandline.cpp has more of it.
 #pragma once
 
 #include <QLibraryInfo>
 #include <QString>
-#include <QTextStream>
 
 namespace qtversions {
 
@@ -22,12 +21,6 @@ inline QString toolkitTranslationsPath()
 {
     return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
 }
-
-// Qt 5's streams are in the locale's encoding by themselves.
-inline void useLocaleEncoding(QTextStream &stream)
-{
-    stream.setEncoding(QStringConverter::System);
-}
 #else
 using NativeEventResult = long;
 
@@ -35,8 +28,6 @@ inline QString toolkitTranslationsPath()
 {
     return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 }
-
-inline void useLocaleEncoding(QTextStream & /*stream*/) {}
 #endif
 
 } // namespace qtversions

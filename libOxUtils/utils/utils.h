@@ -29,7 +29,7 @@ public:
                                      QString &output, QString &error, int startTimeoutMs,
                                      int finishTimeoutMs);
 
-    // Runs a script with "sh" in workingDirectory (empty: the program's own) and waits for its
+    // Runs a script with "sh" in workingDirectory (empty: the current one) and waits for its
     // end, however long that takes; pending events are served every 30 seconds, so callers must
     // tolerate re-entry. What the script wrote goes to the log. False: "sh" did not start within
     // 30 seconds, a non-zero exit code, or an end by a signal.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "maintenance/identity/nonemptylines.h"
 
-#include "libOxUtils/utils/qtversions.h"
-
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
@@ -17,7 +15,6 @@ QStringList nonEmptyLines(const QString &path)
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return lines;
     QTextStream stream(&file);
-    qtversions::useLocaleEncoding(stream);
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
         if (!line.isEmpty())
