@@ -12,6 +12,8 @@ namespace {
 // Far longer than the window manager takes over one request, and too short to be noticed.
 constexpr int PASS_INTERVAL_MS = 500;
 
+constexpr int LOOK_DELAY_MS = 300;
+
 constexpr int SYNTHETIC_EVENT_BIT = 0x80;
 
 bool isBlockedByModal(xcb_window_t id)
@@ -29,6 +31,13 @@ bool isBlockedByModal(xcb_window_t id)
 
 } // namespace
 
+ModalFocusGuard::ModalFocusGuard()
+{
+    m_look.setSingleShot(true);
+    m_look.setInterval(LOOK_DELAY_MS);
+    QObject::connect(&m_look, &QTimer::timeout, &m_look, [this] { giveKeyboardToModal(); });
+}
+
 bool ModalFocusGuard::nativeEventFilter(const QByteArray &eventType, void *message,
                                         qtversions::NativeEventResult * /*result*/)
 {
@@ -36,13 +45,29 @@ bool ModalFocusGuard::nativeEventFilter(const QByteArray &eventType, void *messa
         return false;
     const int type =
         static_cast<xcb_generic_event_t *>(message)->response_type & ~SYNTHETIC_EVENT_BIT;
+    if (type != XCB_FOCUS_IN && type != XCB_FOCUS_OUT)
+        return false;
     // The two kinds of event share one structure.
-    if ((type != XCB_FOCUS_IN && type != XCB_FOCUS_OUT) ||
-        !isBlockedByModal(static_cast<xcb_focus_in_event_t *>(message)->event))
+    const xcb_window_t window = static_cast<xcb_focus_in_event_t *>(message)->event;
+    if (type == XCB_FOCUS_IN)
+        m_focused = window;
+    else if (m_focused == window)
+        m_focused = XCB_NONE;
+    if (!isBlockedByModal(window))
         return false;
 
+    if (!m_look.isActive())
+        m_look.start();
     if (m_sinceLastPassed.isValid() && !m_sinceLastPassed.hasExpired(PASS_INTERVAL_MS))
         return true;
     m_sinceLastPassed.start();
     return false;
+}
+
+void ModalFocusGuard::giveKeyboardToModal()
+{
+    if (!isBlockedByModal(m_focused))
+        return;
+    QGuiApplication::modalWindow()->requestActivate();
+    m_look.start();
 }
