@@ -8,6 +8,7 @@
 // clang-format on
 #include "app/dialogmain.h"
 #include "app/globalvars.h"
+#include "app/keyrepeatguard.h"
 #include "app/modalfocusguard.h"
 #include "app/qtsingleapplication.h"
 #include "app/startup.h"
@@ -59,6 +60,8 @@ int main(int argc, char *argv[])
 
     ModalFocusGuard focusGuard;
     app.installNativeEventFilter(&focusGuard);
+    KeyRepeatGuard repeatGuard;
+    app.installEventFilter(&repeatGuard);
 
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/moniconf.png")));
     DialogMain dialog;
