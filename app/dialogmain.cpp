@@ -280,8 +280,13 @@ void DialogMain::listResolution_currentTextChanged(const QString &currentText)
     if (currentText.isEmpty())
         return;
     T_Resolution selected;
-    if (parseItem(selected, currentText))
-        ui->m_btnApply->setEnabled(!isSameSize(selected, m_curResolution));
+    if (!parseItem(selected, currentText))
+        return;
+    const bool isNew = !isSameSize(selected, m_curResolution);
+    // Apply cannot keep the keyboard then, and the toolkit would give it to OK.
+    if (!isNew && focusWidget() == ui->m_btnApply)
+        ui->m_listResolution->setFocus();
+    ui->m_btnApply->setEnabled(isNew);
 }
 
 void DialogMain::lblDateTime_mouseDoubleClicked()

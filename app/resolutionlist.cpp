@@ -4,6 +4,8 @@
 #include "display/modetext.h"
 #include "display/monitor/modes.h"
 
+#include <QMouseEvent>
+#include <QPainter>
 #include <QStyle>
 
 #include <algorithm>
@@ -34,5 +36,37 @@ void ResolutionList::focusInEvent(QFocusEvent *event)
     }
     // The class between would choose a row here.
     QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    viewport()->update();
+}
+
+void ResolutionList::focusOutEvent(QFocusEvent *event)
+{
+    QListWidget::focusOutEvent(event);
+    viewport()->update();
+}
+
+void ResolutionList::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListWidget::mousePressEvent(event);
+}
+
+void ResolutionList::paintEvent(QPaintEvent *event)
+{
+    QListWidget::paintEvent(event);
+    if (!hasFocus())
+        return;
+    // Lines alone: the style's own frame would tint the rows, too.
+    const int width = 2 * qMax(1, logicalDpiY() / 96);
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().highlight(), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    // Half of each line lies outside the view.
+    painter.drawRect(viewport()->rect());
+}
+
+void ResolutionList::scrollContentsBy(int dx, int dy)
+{
+    QListWidget::scrollContentsBy(dx, dy);
+    // The frame does not move with the rows.
     viewport()->update();
 }

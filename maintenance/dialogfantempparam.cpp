@@ -55,6 +55,9 @@ void DialogFanTempParam::SetThresholds(int lower, int upper)
 {
     ui->m_spinLowerTempThreshold->setValue(lower);
     ui->m_spinUpperTempThreshold->setValue(upper);
+    // Digits typed beside the old number would make one out of range, which the box does not take.
+    ui->m_spinLowerTempThreshold->setFocus();
+    ui->m_spinLowerTempThreshold->selectAll();
 }
 
 void DialogFanTempParam::GetThresholds(int &lower, int &upper) const
