@@ -15,9 +15,9 @@
 // clang-format on
 #include "app/dialogmain.h"
 
+#include "app/errorbox.h"
 #include "app/heldsignals.h"
 #include "app/shellprofile.h"
-#include "app/shortenedmessage.h"
 #include "app/terminalentry.h"
 #include "app/testapplication.h"
 #include "display/boxmode.h"
@@ -132,14 +132,7 @@ bool DialogMain::hasOtpApplication() const
 
 void DialogMain::showError(const QString &text)
 {
-    QMessageBox box(this);
-    box.setIcon(QMessageBox::Critical);
-    box.setWindowTitle(tr("Error"));
-    // The text can be another program's.
-    box.setTextFormat(Qt::PlainText);
-    box.setText(shortenedMessage(text));
-    box.setStandardButtons(QMessageBox::Ok);
-    box.exec();
+    ErrorBox(this, tr("Error"), text).exec();
 }
 
 void DialogMain::keyPressEvent(QKeyEvent *event)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/boxmode.h"
 
+#include "display/screenkeeper.h"
 #include "libOxUtils/utils/utils.h"
 #include "libOxUtils/utils/waitcursor.h"
 
@@ -43,6 +44,7 @@ void switchScreen(const DisplayMode &mode)
     QString output;
     QString error;
     run(filled(QStringLiteral("xrandr -s %1x%2 -r %3"), mode), output, error);
+    waitForScreen(QSize(static_cast<int>(mode.width), static_cast<int>(mode.height)));
 }
 
 bool storeMode(const DisplayMode &mode, QString &error)

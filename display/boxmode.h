@@ -11,7 +11,8 @@
 // which is logged at failureSite, at critical level and with what the command said.
 bool readStoredMode(QString &text, const oxlog::Site &failureSite);
 
-// Switches the screen to a mode. Whether it did is for the user in front of it to say.
+// Switches the screen to a mode, and returns when the toolkit knows the new size or after half a
+// second without it. Whether the screen shows the mode is for the user in front of it to say.
 void switchScreen(const DisplayMode &mode);
 
 // Stores a mode for the next start, on the storage before this returns: the box may be switched off

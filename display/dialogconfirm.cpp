@@ -4,6 +4,10 @@
 #include "display/screenkeeper.h"
 #include "ui_dialogconfirm.h"
 
+#include <QGuiApplication>
+#include <QMoveEvent>
+#include <QScreen>
+
 namespace {
 
 constexpr int COUNTDOWN_SECONDS = 30;
@@ -17,6 +21,16 @@ constexpr int WIDEST = 800 - 16;
 constexpr int PICTURE_DPI = 96;
 
 } // namespace
+
+int distanceFromPointer(const QRect &rect, const QRect &buttons, const QPoint &pointer,
+                        const QRect &area)
+{
+    const QRect taken = buttons.translated(rect.topLeft());
+    if (!taken.contains(pointer))
+        return 0;
+    const int down = pointer.y() - taken.top() + 1;
+    return rect.bottom() + down <= area.bottom() ? down : pointer.y() - taken.bottom() - 1;
+}
 
 DialogConfirm::DialogConfirm(QWidget *parent)
     : QDialog(parent)
@@ -46,11 +60,34 @@ DialogConfirm::~DialogConfirm() = default;
 
 void DialogConfirm::showEvent(QShowEvent *event)
 {
+    // Both before the window is on the screen, where nothing jumps then.
+    centreOnScreen(this);
+    letGoOfPointer();
     QDialog::showEvent(event);
     // Whoever types on without looking must end up with the mode that could be seen before.
     ui->m_btnRestorePreConfig->setFocus();
     raise();
     activateWindow();
+}
+
+void DialogConfirm::moveEvent(QMoveEvent *event)
+{
+    QDialog::moveEvent(event);
+    if (isVisible() && event->pos() != event->oldPos())
+        letGoOfPointer();
+}
+
+void DialogConfirm::letGoOfPointer()
+{
+    // More than a hand moves between two clicks.
+    const int margin = ui->m_btnKeepThisConfig->height();
+    const QRect buttons =
+        (ui->m_btnRestorePreConfig->geometry() | ui->m_btnKeepThisConfig->geometry())
+            .marginsAdded({margin, margin, margin, margin});
+    const int distance = distanceFromPointer(geometry(), buttons, QCursor::pos(),
+                                             QGuiApplication::primaryScreen()->geometry());
+    if (distance != 0)
+        setGeometry(geometry().translated(0, distance));
 }
 
 void DialogConfirm::btnRestorePreConfig_clicked()

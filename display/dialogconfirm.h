@@ -10,9 +10,19 @@ namespace Ui {
 class DialogConfirm;
 }
 
+// How far down a window at rect has to be moved, up if negative, for its buttons, the part of it
+// that buttons says, to let go of the pointer; 0 when they do not lie under it. Down, where the
+// area leaves room. All in pixels.
+int distanceFromPointer(const QRect &rect, const QRect &buttons, const QPoint &pointer,
+                        const QRect &area);
+
 // Asks whether a newly switched mode can be seen, and answers no by itself after 30 seconds: a
 // user in front of a black screen gets the old mode back without touching anything. The result is
 // Accepted when the mode is to be kept, Rejected otherwise.
+//
+// It comes up in the middle of the screen, but never with a button under the pointer, nor is it
+// moved so later by anyone but the user: a second click on the spot of the first would answer it
+// before it has been seen.
 class DialogConfirm : public QDialog
 {
     Q_OBJECT
@@ -23,6 +33,7 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
 
 private slots:
     void btnRestorePreConfig_clicked();
@@ -31,6 +42,7 @@ private slots:
 
 private:
     void showSecondsLeft();
+    void letGoOfPointer();
 
     std::unique_ptr<Ui::DialogConfirm> ui;
     QTimer m_countdown;

@@ -1,10 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "display/screenkeeper.h"
 
-#include <QEvent>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QThread>
 #include <QWidget>
+
+namespace {
+
+// Time for the window manager to move what a smaller screen has left outside.
+constexpr int SETTLE_MS = 300;
+
+constexpr int SCREEN_MS = 500;
+constexpr int POLL_MS = 5;
+
+} // namespace
 
 QPoint placeOnScreen(const QRect &rect, const QRect &area)
 {
@@ -14,11 +25,35 @@ QPoint placeOnScreen(const QRect &rect, const QRect &area)
             qMax(area.top(), qMin(rect.top(), bottom))};
 }
 
+void waitForScreen(const QSize &size)
+{
+    QElapsedTimer waiting;
+    waiting.start();
+    for (;;) {
+        // A signal that has arrived is for the dialog that comes next.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::ExcludeSocketNotifiers);
+        const QScreen *const screen = QGuiApplication::primaryScreen();
+        if (screen->size() * screen->devicePixelRatio() == size || waiting.hasExpired(SCREEN_MS))
+            return;
+        QThread::msleep(POLL_MS);
+    }
+}
+
+void centreOnScreen(QWidget *window)
+{
+    QRect place(QPoint(), window->size());
+    place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
+    window->setGeometry(place);
+}
+
 ScreenKeeper::ScreenKeeper(QWidget *window)
     : QObject(window)
     , m_window(window)
 {
-    window->installEventFilter(this);
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(SETTLE_MS);
+    connect(&m_settling, &QTimer::timeout, this, &ScreenKeeper::settle);
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &ScreenKeeper::watch);
     watch(QGuiApplication::primaryScreen());
 }
@@ -26,24 +61,34 @@ ScreenKeeper::ScreenKeeper(QWidget *window)
 void ScreenKeeper::watch(QScreen *screen)
 {
     if (screen)
-        connect(screen, &QScreen::availableGeometryChanged, this, &ScreenKeeper::moveOntoScreen);
+        connect(screen, &QScreen::geometryChanged, this, &ScreenKeeper::followScreen);
 }
 
-bool ScreenKeeper::eventFilter(QObject *watched, QEvent *event)
+void ScreenKeeper::followScreen()
 {
-    // The window manager has had its say about the place by then.
-    if (event->type() == QEvent::WindowActivate)
-        moveOntoScreen();
-    return QObject::eventFilter(watched, event);
-}
-
-void ScreenKeeper::moveOntoScreen()
-{
-    const QScreen *const screen = QGuiApplication::primaryScreen();
-    if (!screen)
+    if (!m_window->isVisible())
         return;
+    // What moves the window while it settles is not the user.
+    if (!m_settling.isActive() && m_window->pos() != m_settled)
+        m_home = m_window->pos();
+    goHome(QGuiApplication::primaryScreen()->geometry());
+    m_settling.start();
+}
+
+bool ScreenKeeper::goHome(const QRect &area)
+{
+    if (!area.contains(QRect(m_home, m_window->frameGeometry().size())))
+        return false;
+    if (m_window->pos() != m_home)
+        m_window->move(m_home);
+    return true;
+}
+
+void ScreenKeeper::settle()
+{
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
     const QRect frame = m_window->frameGeometry();
-    const QPoint place = placeOnScreen(frame, screen->availableGeometry());
-    if (place != frame.topLeft())
-        m_window->move(place);
+    if (!goHome(area) && !area.contains(frame))
+        m_window->move(placeOnScreen(frame, area));
+    m_settled = m_window->pos();
 }

@@ -10,6 +10,7 @@ class TestDialogConfirm : public QObject
 
 private slots:
     void countsDownAndRejects();
+    void letsGoOfPointer();
 };
 
 void TestDialogConfirm::countsDownAndRejects()
@@ -28,6 +29,19 @@ void TestDialogConfirm::countsDownAndRejects()
     }
     QCOMPARE(sentence->text(), text.arg(0));
     QCOMPARE(rejected.count(), 1);
+}
+
+void TestDialogConfirm::letsGoOfPointer()
+{
+    const auto distance = [](int y, const QPoint &pointer) {
+        return distanceFromPointer(QRect(100, y, 400, 100), QRect(200, 60, 180, 30), pointer,
+                                   QRect(0, 0, 800, 600));
+    };
+    QCOMPARE(distance(200, {299, 270}), 0);
+    QCOMPARE(distance(200, {300, 290}), 0);
+    QCOMPARE(distance(200, {300, 260}), 1);
+    QCOMPARE(distance(200, {479, 289}), 30);
+    QCOMPARE(distance(500, {300, 560}), -30);
 }
 
 QTEST_MAIN(TestDialogConfirm)
