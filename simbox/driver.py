@@ -21,6 +21,7 @@ CLOCK = (143, 308)
 BLANK = (240, 120)
 FIRST_ROW = (60, 51)
 ROW_HEIGHT = 15
+LANGUAGE = (236, 45)
 Message = collections.namedtuple('Message', 'type file line function category text')
 
 
@@ -97,6 +98,13 @@ def wait_until_gone(title, patience=PATIENCE):
     wait_for(lambda: not find_windows(title), f'end of window "{title}"', patience)
 
 
+def place(window):
+    """Left, top, width and height of a window without its frame, in pixels of the screen."""
+    text = output('xwininfo', '-id', window)
+    return tuple(int(re.search(rf'{name}: +(-?\d+)', text)[1]) for name in (
+        'Absolute upper-left X', 'Absolute upper-left Y', 'Width', 'Height'))
+
+
 def keys(*names):
     """Presses keys, such as 'Down' or 'ctrl+e', in the window that has the keyboard."""
     output('xdotool', 'key', '--delay', '30', *names)
@@ -106,10 +114,15 @@ def type_text(text):
     output('xdotool', 'type', '--delay', '30', text)
 
 
-def click(window, x, y, button=1, times=1):
-    """Clicks at a place counted from the window's top left corner."""
+def hold(key, seconds=1.5):
+    """Holds a key for longer than it takes to repeat itself."""
+    output('xdotool', 'keydown', key, 'sleep', str(seconds), 'keyup', key)
+
+
+def click(window, x, y, button=1, times=1, delay=60):
+    """Clicks at a place counted from the window's top left corner; the delay is in ms."""
     output('xdotool', 'mousemove', '--window', window, str(x), str(y),
-           'click', '--repeat', str(times), '--delay', '60', str(button))
+           'click', '--repeat', str(times), '--delay', str(delay), str(button))
 
 
 def click_row(window, row):

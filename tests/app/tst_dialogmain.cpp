@@ -2,6 +2,7 @@
 // The main window on the box's own files and devices: runs inside the simulated box only.
 #include "app/dialogmain.h"
 #include "app/modalfocusguard.h"
+#include "display/dialogconfirm.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/modal.h"
 
@@ -10,8 +11,11 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QScopeGuard>
+#include <QScreen>
+#include <QWindow>
 
 namespace {
 
@@ -44,6 +48,9 @@ ModalAnswers::Action confirmError(const QString &text,
         QCOMPARE(box->text(), text);
         QCOMPARE(box->windowTitle(), title);
         QCOMPARE(box->buttons().size(), 1);
+        const QPoint middle = QGuiApplication::primaryScreen()->geometry().center();
+        if (!box->parentWidget()->isVisible())
+            QVERIFY((box->geometry().center() - middle).manhattanLength() < 5);
         box->buttons().first()->click();
     };
 }
@@ -71,6 +78,11 @@ LogCapture::Message messageAt(int line)
     return {};
 }
 
+QColor frameOf(QListWidget *list)
+{
+    return list->viewport()->grab().toImage().pixelColor(0, list->viewport()->height() / 2);
+}
+
 const QString TERMINAL = QStringLiteral("/usr/share/applications/matchbox-terminal.desktop");
 
 } // namespace
@@ -87,6 +99,9 @@ private slots:
     void opens_data();
     void opens();
     void focusSetsNoRow();
+    void rightClick_data();
+    void rightClick();
+    void questionLetsGoOfPointer();
     void nothingSelected();
     void instructions_data();
     void instructions();
@@ -165,14 +180,75 @@ void TestDialogMain::focusSetsNoRow()
          {Qt::TabFocusReason, Qt::ActiveWindowFocusReason, Qt::MouseFocusReason}) {
         apply->clearFocus();
         dialog.findChild<QComboBox *>()->setFocus();
+        QCOMPARE(frameOf(list), list->palette().base().color());
         list->setFocus(reason);
         QVERIFY(list->hasFocus());
+        QCOMPARE(frameOf(list), list->palette().highlight().color());
         QCOMPARE(list->currentRow(), -1);
         QVERIFY(!apply->isEnabled());
     }
     QTest::keyClick(list, Qt::Key_Down);
     QCOMPARE(list->currentRow(), 0);
     QVERIFY(apply->isEnabled());
+}
+
+void TestDialogMain::rightClick_data()
+{
+    QTest::addColumn<QString>("place");
+    for (const char *place : {"m_listResolution", "m_cmbLanguage", "m_btnApply", "label"})
+        QTest::newRow(place) << QString::fromLatin1(place);
+}
+
+void TestDialogMain::rightClick()
+{
+    QFETCH(QString, place);
+    DialogMain dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    const auto *list = dialog.findChild<QListWidget *>();
+    const int row = list->currentRow();
+    QVERIFY(row > 0);
+
+    bool hasMenu = false;
+    QTimer look;
+    connect(&look, &QTimer::timeout, [&] {
+        QWidget *const popup = QApplication::activePopupWidget();
+        hasMenu = hasMenu || qobject_cast<QMenu *>(popup);
+        if (popup)
+            popup->close();
+    });
+    look.start(50);
+    const auto *widget = dialog.findChild<QWidget *>(place);
+    QTest::mouseClick(dialog.windowHandle(), Qt::RightButton, Qt::NoModifier,
+                      widget->mapTo(&dialog, QPoint(20, 8)));
+    QTRY_VERIFY(hasMenu);
+    QCOMPARE(list->currentRow(), row);
+}
+
+void TestDialogMain::questionLetsGoOfPointer()
+{
+    QCursor::setPos(0, 0);
+    const auto isUnderButton = [] {
+        return qobject_cast<QPushButton *>(qApp->widgetAt(QCursor::pos()));
+    };
+    for (const char *name : {"m_btnKeepThisConfig", "m_btnRestorePreConfig"}) {
+        QPoint middle;
+        for (int round = 0; round < 2; ++round) {
+            DialogConfirm question(nullptr);
+            question.show();
+            QVERIFY(QTest::qWaitForWindowActive(&question));
+            QVERIFY(!isUnderButton());
+            const auto *button = question.findChild<QPushButton *>(QLatin1String(name));
+            // The second question would come up, and then is moved, under the pointer.
+            middle = button->mapToGlobal(button->rect().center());
+            if (round == 0)
+                QCursor::setPos(middle);
+            else
+                question.move(question.pos() + QCursor::pos() - middle);
+            QTest::qWait(200);
+            QCOMPARE(isUnderButton() != nullptr, round == 0);
+        }
+    }
 }
 
 void TestDialogMain::nothingSelected()

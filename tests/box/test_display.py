@@ -22,10 +22,10 @@ class Display(unittest.TestCase):
         self.tool = driver.Tool()
         self.addCleanup(self.tool.stop)
 
-    def apply(self, row):
+    def apply(self, row, times=1):
         window = wait_for_window('Display Settings')
         click_row(window, row)
-        click(window, *APPLY)
+        click(window, *APPLY, times=times, delay=120)
         return wait_for_window('Information')
 
     def stand_in(self, command, action):
@@ -37,9 +37,7 @@ class Display(unittest.TestCase):
 
     @staticmethod
     def is_on_screen(window):
-        place = dict(line.split('=') for line in driver.output(
-            'xdotool', 'getwindowgeometry', '--shell', window).splitlines())
-        x, y, width, height = (int(place[name]) for name in ('X', 'Y', 'WIDTH', 'HEIGHT'))
+        x, y, width, height = driver.place(window)
         right, bottom = map(int, screen_size().split('x'))
         return 0 <= x <= right - width and 0 <= y <= bottom - height
 
@@ -47,26 +45,36 @@ class Display(unittest.TestCase):
         question = self.apply(0)
         self.assertEqual(screen_size(), '800x600')
         main = driver.find_windows('Display Settings')[0]
-        wait_for(lambda: self.is_on_screen(question), 'question on the screen')
+        left, top, width, height = driver.place(question)
+        self.assertAlmostEqual(left + width / 2, 400, delta=2)
+        # It makes way for a pointer that would lie on its buttons.
+        self.assertAlmostEqual(top + height / 2, 300, delta=height)
         wait_for(lambda: self.is_on_screen(main), 'main window on the screen')
         keys('Tab', 'space')
         wait_until_gone('Information')
         self.assertEqual(wait_for(lambda: stored_mode() != '1920x1080M@60' and stored_mode(),
                                   'stored mode'), '800x600@60')
         # It is the current mode now: OK ends without a question, and writes the language.
-        Path('/etc/profile').write_text('export LANG=zh_CN.UTF-8\n')
+        Path('/etc/profile').write_text('export LANG=en_US.UTF-8\n')
         wait_for_window('Display Settings')
-        click_row(main, 0)
-        keys('Tab', 'Tab', 'Down', 'Tab', 'space')
+        # The list has the keyboard, so Enter does nothing; nor does the wheel over the language.
+        keys('Return')
+        click(main, *driver.LANGUAGE, button=5, times=2)
+        self.assertIsNone(self.tool.process.poll())
+        keys('Tab', 'Tab', 'Tab', 'space')
         self.assertEqual(self.tool.wait_for_end(), 0)
         self.assertEqual(screen_size(), '800x600')
-        self.assertIn('export LANG=en_US.UTF-8\n', Path('/etc/profile').read_text())
+        self.assertIn('export LANG=zh_CN.UTF-8\n', Path('/etc/profile').read_text())
 
     def test_restore_by_enter(self):
-        self.apply(5)
-        self.assertEqual(screen_size(), '1440x900')
+        window = wait_for_window('Display Settings')
+        before = driver.place(window)
+        # A double click, whose second click must not keep the keyboard from the question.
+        self.apply(0, times=2)
+        self.assertEqual(screen_size(), '800x600')
         keys('Return')
         wait_for(lambda: screen_size() == '1920x1080', 'the mode before')
+        wait_for(lambda: driver.place(window) == before, 'the main window where it was')
         self.assertEqual(stored_mode(), '1920x1080M@60')
 
     def test_no_answer(self):

@@ -41,8 +41,17 @@ class Maintenance(unittest.TestCase):
     def test_about(self):
         keys('F1')
         wait_for_window('About...')
-        keys('Return')
+        driver.hold('Escape')
         wait_until_gone('About...')
+        wait_for_window('Display Settings')
+
+    def test_bursts(self):
+        for delay in (80, 160, 200, 250, 300):
+            with self.subTest(delay):
+                click(self.window, *driver.CLOCK, times=3, delay=delay)
+                wait_for_window('Setting Date Time', patience=5)
+                keys('Escape')
+                wait_for_window('Display Settings')
 
     def test_clock(self):
         Path('/tmp/calclock.sh').write_text('stale')
@@ -85,7 +94,7 @@ class Maintenance(unittest.TestCase):
         conf.write_text('# Degrees\ntemp_threshold_lower = 60\n\nother=1\n')
         self.choose('Fan Setting')
         wait_for_window('Parameter Input Dialog')
-        keys('ctrl+a', '8', '0', 'Tab', 'ctrl+a', '7', '0', 'Return')
+        keys('8', '0', 'Tab', '7', '0', 'Return')
         wait_for_window('Information')
         keys('Return')
         wait_until_gone('Information')
@@ -93,7 +102,7 @@ class Maintenance(unittest.TestCase):
                                            'temp_threshold_upper=70')
 
     def test_upgrades(self):
-        keys('F12')
+        driver.hold('F12')
         self.new_calls('upgrader app moniconf moniconf')
         self.assert_logged(555, 'startUpgraderSelf', 'Starting upgrader self...')
         self.choose('Upgrade File System')
