@@ -132,7 +132,7 @@ bool DialogMain::hasOtpApplication() const
 
 void DialogMain::showError(const QString &text)
 {
-    ErrorBox(this, tr("Error"), text).exec();
+    ErrorBox(*this, tr("Error"), text).exec();
 }
 
 void DialogMain::keyPressEvent(QKeyEvent *event)
@@ -280,6 +280,8 @@ void DialogMain::listResolution_currentTextChanged(const QString &currentText)
     if (!isNew && focusWidget() == ui->m_btnApply)
         ui->m_listResolution->setFocus();
     ui->m_btnApply->setEnabled(isNew);
+    // A disabled button would swallow the right click that opens the window's menu.
+    ui->m_btnApply->setAttribute(Qt::WA_TransparentForMouseEvents, !isNew);
 }
 
 void DialogMain::lblDateTime_mouseDoubleClicked()

@@ -4,8 +4,8 @@
 #include "app/shortenedmessage.h"
 #include "display/screenkeeper.h"
 
-ErrorBox::ErrorBox(QWidget *parent, const QString &title, const QString &text)
-    : QMessageBox(parent)
+ErrorBox::ErrorBox(QWidget &parent, const QString &title, const QString &text)
+    : QMessageBox(&parent)
 {
     setIcon(QMessageBox::Critical);
     setWindowTitle(title);

@@ -10,7 +10,7 @@ class ErrorBox : public QMessageBox
     Q_OBJECT
 
 public:
-    ErrorBox(QWidget *parent, const QString &title, const QString &text);
+    ErrorBox(QWidget &parent, const QString &title, const QString &text);
 
 protected:
     void showEvent(QShowEvent *event) override;

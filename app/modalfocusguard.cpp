@@ -9,10 +9,11 @@
 
 namespace {
 
-// Far longer than the window manager takes over one request, and too short to be noticed.
+// Longer than the window manager takes over one request, some milliseconds.
 constexpr int PASS_INTERVAL_MS = 500;
-
-constexpr int LOOK_DELAY_MS = 300;
+// Long enough for a burst of clicks to end, short enough for the keyboard to be there within a
+// second.
+constexpr int FOCUS_CHECK_MS = 300;
 
 constexpr int SYNTHETIC_EVENT_BIT = 0x80;
 
@@ -33,9 +34,10 @@ bool isBlockedByModal(xcb_window_t id)
 
 ModalFocusGuard::ModalFocusGuard()
 {
-    m_look.setSingleShot(true);
-    m_look.setInterval(LOOK_DELAY_MS);
-    QObject::connect(&m_look, &QTimer::timeout, &m_look, [this] { giveKeyboardToModal(); });
+    m_focusCheck.setSingleShot(true);
+    m_focusCheck.setInterval(FOCUS_CHECK_MS);
+    QObject::connect(&m_focusCheck, &QTimer::timeout, &m_focusCheck,
+                     [this] { giveKeyboardToModal(); });
 }
 
 bool ModalFocusGuard::nativeEventFilter(const QByteArray &eventType, void *message,
@@ -56,8 +58,8 @@ bool ModalFocusGuard::nativeEventFilter(const QByteArray &eventType, void *messa
     if (!isBlockedByModal(window))
         return false;
 
-    if (!m_look.isActive())
-        m_look.start();
+    if (!m_focusCheck.isActive())
+        m_focusCheck.start();
     if (m_sinceLastPassed.isValid() && !m_sinceLastPassed.hasExpired(PASS_INTERVAL_MS))
         return true;
     m_sinceLastPassed.start();
@@ -69,5 +71,5 @@ void ModalFocusGuard::giveKeyboardToModal()
     if (!isBlockedByModal(m_focused))
         return;
     QGuiApplication::modalWindow()->requestActivate();
-    m_look.start();
+    m_focusCheck.start();
 }

@@ -28,7 +28,7 @@ private:
     void giveKeyboardToModal();
 
     QElapsedTimer m_sinceLastPassed;
-    QTimer m_look;
+    QTimer m_focusCheck;
     // The window of this program that has the keyboard, 0 when another program has it. The toolkit
     // cannot say, since not every change has reached it.
     quint32 m_focused = 0;

@@ -43,8 +43,8 @@ void switchScreen(const DisplayMode &mode)
 {
     QString output;
     QString error;
-    run(filled(QStringLiteral("xrandr -s %1x%2 -r %3"), mode), output, error);
-    waitForScreen(QSize(static_cast<int>(mode.width), static_cast<int>(mode.height)));
+    if (run(filled(QStringLiteral("xrandr -s %1x%2 -r %3"), mode), output, error))
+        waitForScreen(QSize(static_cast<int>(mode.width), static_cast<int>(mode.height)));
 }
 
 bool storeMode(const DisplayMode &mode, QString &error)

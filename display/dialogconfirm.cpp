@@ -4,9 +4,7 @@
 #include "display/screenkeeper.h"
 #include "ui_dialogconfirm.h"
 
-#include <QGuiApplication>
 #include <QMoveEvent>
-#include <QScreen>
 
 namespace {
 
@@ -16,6 +14,9 @@ constexpr int TICK_MS = 1000;
 // The question comes with the switch, before the toolkit has heard of the new screen's size: it has
 // to fit the smallest mode of all. In pixels, less the window's frame.
 constexpr int WIDEST = 800 - 16;
+
+// A window manager that puts the window back must not be argued with for ever.
+constexpr int MOST_MOVES = 10;
 
 // The form's picture is for 96 dots an inch; for more its double is scaled down.
 constexpr int PICTURE_DPI = 96;
@@ -43,7 +44,7 @@ DialogConfirm::DialogConfirm(QWidget *parent)
         ui->label_2->setPixmap(QPixmap(QStringLiteral(":/image/question@2x.png")));
     }
     showSecondsLeft();
-    if (sizeHint().width() > WIDEST)
+    if (sizeHint().width() * devicePixelRatioF() > WIDEST)
         ui->m_lblQuestion->setWordWrap(true);
     // The window keeps its size when the number gets shorter.
     ui->m_lblQuestion->setMinimumWidth(ui->m_lblQuestion->sizeHint().width());
@@ -60,10 +61,13 @@ DialogConfirm::~DialogConfirm() = default;
 
 void DialogConfirm::showEvent(QShowEvent *event)
 {
-    // Both before the window is on the screen, where nothing jumps then.
-    centreOnScreen(this);
-    letGoOfPointer();
     QDialog::showEvent(event);
+    // From here on the window manager shows and hides what the user has placed.
+    if (event->spontaneous())
+        return;
+    // Placed before the window is mapped, so that nobody sees it move.
+    centreOnScreen(this);
+    moveButtonsFromPointer();
     // Whoever types on without looking must end up with the mode that could be seen before.
     ui->m_btnRestorePreConfig->setFocus();
     raise();
@@ -74,19 +78,18 @@ void DialogConfirm::moveEvent(QMoveEvent *event)
 {
     QDialog::moveEvent(event);
     if (isVisible() && event->pos() != event->oldPos())
-        letGoOfPointer();
+        moveButtonsFromPointer();
 }
 
-void DialogConfirm::letGoOfPointer()
+void DialogConfirm::moveButtonsFromPointer()
 {
     // More than a hand moves between two clicks.
     const int margin = ui->m_btnKeepThisConfig->height();
     const QRect buttons =
         (ui->m_btnRestorePreConfig->geometry() | ui->m_btnKeepThisConfig->geometry())
             .marginsAdded({margin, margin, margin, margin});
-    const int distance = distanceFromPointer(geometry(), buttons, QCursor::pos(),
-                                             QGuiApplication::primaryScreen()->geometry());
-    if (distance != 0)
+    const int distance = distanceFromPointer(geometry(), buttons, QCursor::pos(), screenArea());
+    if (distance != 0 && m_moves++ < MOST_MOVES)
         setGeometry(geometry().translated(0, distance));
 }
 

@@ -42,9 +42,10 @@ private slots:
 
 private:
     void showSecondsLeft();
-    void letGoOfPointer();
+    void moveButtonsFromPointer();
 
     std::unique_ptr<Ui::DialogConfirm> ui;
     QTimer m_countdown;
     int m_secondsLeft;
+    int m_moves = 0; // that made way for the pointer
 };

@@ -12,7 +12,7 @@ namespace {
 // Time for the window manager to move what a smaller screen has left outside.
 constexpr int SETTLE_MS = 300;
 
-constexpr int SCREEN_MS = 500;
+constexpr int SCREEN_WAIT_MS = 500;
 constexpr int POLL_MS = 5;
 
 } // namespace
@@ -25,16 +25,20 @@ QPoint placeOnScreen(const QRect &rect, const QRect &area)
             qMax(area.top(), qMin(rect.top(), bottom))};
 }
 
+QRect screenArea()
+{
+    const QScreen *const screen = QGuiApplication::primaryScreen();
+    return screen ? screen->geometry() : QRect();
+}
+
 void waitForScreen(const QSize &size)
 {
     QElapsedTimer waiting;
     waiting.start();
     for (;;) {
-        // A signal that has arrived is for the dialog that comes next.
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
-                                        QEventLoop::ExcludeSocketNotifiers);
-        const QScreen *const screen = QGuiApplication::primaryScreen();
-        if (screen->size() * screen->devicePixelRatio() == size || waiting.hasExpired(SCREEN_MS))
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        const QSize known = screenArea().size() * qGuiApp->devicePixelRatio();
+        if (known == size || waiting.hasExpired(SCREEN_WAIT_MS))
             return;
         QThread::msleep(POLL_MS);
     }
@@ -43,7 +47,7 @@ void waitForScreen(const QSize &size)
 void centreOnScreen(QWidget *window)
 {
     QRect place(QPoint(), window->size());
-    place.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
+    place.moveCenter(screenArea().center());
     window->setGeometry(place);
 }
 
@@ -61,7 +65,8 @@ ScreenKeeper::ScreenKeeper(QWidget *window)
 void ScreenKeeper::watch(QScreen *screen)
 {
     if (screen)
-        connect(screen, &QScreen::geometryChanged, this, &ScreenKeeper::followScreen);
+        connect(screen, &QScreen::geometryChanged, this, &ScreenKeeper::followScreen,
+                Qt::UniqueConnection);
 }
 
 void ScreenKeeper::followScreen()
@@ -71,7 +76,7 @@ void ScreenKeeper::followScreen()
     // What moves the window while it settles is not the user.
     if (!m_settling.isActive() && m_window->pos() != m_settled)
         m_home = m_window->pos();
-    goHome(QGuiApplication::primaryScreen()->geometry());
+    goHome(screenArea());
     m_settling.start();
 }
 
@@ -86,9 +91,10 @@ bool ScreenKeeper::goHome(const QRect &area)
 
 void ScreenKeeper::settle()
 {
-    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    const QScreen *const screen = QGuiApplication::primaryScreen();
+    const QRect area = screen ? screen->availableGeometry() : QRect();
     const QRect frame = m_window->frameGeometry();
-    if (!goHome(area) && !area.contains(frame))
+    if (!goHome(area) && !area.contains(frame) && !area.isEmpty())
         m_window->move(placeOnScreen(frame, area));
     m_settled = m_window->pos();
 }
