@@ -15,6 +15,7 @@ gi.require_version('Gio', '2.0')
 from gi.repository import Gio, GLib  # noqa: E402
 
 import driver  # noqa: E402
+import tables  # noqa: E402
 from driver import keys, wait_for, wait_for_window, wait_until_gone  # noqa: E402
 
 HOME = Path('/opt/moniconf')
@@ -39,6 +40,9 @@ class Package(unittest.TestCase):
         files = [Path(name) for name in driver.output('dpkg', '--listfiles', 'moniconf').split('\n')
                  if not Path(name).is_dir()]
         self.assertEqual([file for file in files if not file.exists()], [])
+        self.assertEqual({file.name for file in files if file.parent == HOME},
+                         {'moniconf', 'moniconf-edid',
+                          *(f'moniconf_{locale}.qm' for locale in tables.LOCALES)})
         self.assertEqual(list(Path('/var/lib/dpkg/info').glob('moniconf.*inst')), [])
         self.assertRegex(driver.output('/usr/bin/moniconf', '-v'), r'^moniconf 1\.2\.')
 
