@@ -181,6 +181,11 @@ int showDump(const std::string &title, const unsigned char *block)
 int show(const Source &source, const Request &request)
 {
     const std::string name = !source.isBus && source.name == "-" ? "standard input" : source.name;
+    // Read as a file, an adapter gives bytes of whatever answers at its last address, or fails.
+    if (!source.isBus && name.rfind("/dev/i2c-", 0) == 0) {
+        say(name + " is an I2C adapter, type: --bus " + name);
+        return STATUS_TROUBLE;
+    }
     unsigned char bytes[EDID_BLOCK_SIZE] = {};
     const int size = readSource(source, bytes);
     if (size < 0) {

@@ -144,6 +144,7 @@ void TestEdid::tool_data()
     row("missing short fullhd", 2, "short:\nNot a valid EDID\nfullhd:\n" + dump,
         "missing: No such file");
     row("--bus /dev/null", 2, "", "/dev/null: "); // an emulator has a reason of its own
+    row("--modes /dev/i2c-1", 2, "", "type: --bus /dev/i2c-1");
     row("--modes", 2, "", "no file");
 }
 
