@@ -14,7 +14,16 @@ QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
+QString savedFile;
+qint64 syncedBytes; // of the file at the last sync(), -1 before
+
 } // namespace
+
+// In place of the C library's.
+extern "C" void sync() noexcept
+{
+    syncedBytes = QFileInfo(savedFile).size();
+}
 
 class TestConfFile : public QObject
 {
@@ -35,7 +44,7 @@ private slots:
 void TestConfFile::initTestCase()
 {
     QVERIFY(m_directory.isValid());
-    m_path = m_directory.filePath(text("a %1.conf"));
+    m_path = savedFile = m_directory.filePath(text("a %1.conf"));
 }
 
 void TestConfFile::put(const QByteArray &content)
@@ -58,44 +67,38 @@ void TestConfFile::rewrites_data()
     row("empty", "", nullptr, "");
     row("comments", "#in degrees\n#\n ## x # y\n", nullptr, "# in degrees\n#\n# # x # y");
     row("a setting before a comment is lost", "a=1 # note\nb=2 #\n", nullptr, "# note\nb=2");
-    row("a new value before a comment is lost", "a=1 # note", "a=2", "# note");
     row("the key is after the comment", "# a=1", "a=2", "# a=1\na=2");
     row("no setting", "[Desktop Entry]\n\n  words  \n=x\n = \n", nullptr,
         "[Desktop Entry]\n\nwords\n=x\n=");
     row("of two the first gets the later value", "a=1\nb=0\na=2", nullptr, "a=2\nb=0\na=2");
     row("of two the first is changed", "a=1\na=2", "a=3", "a=3\na=2");
-    row("placeholders", "a=1", "%1=%2%1", "a=1\n%1=%2%1");
-    row("the empty key has lines", "[x]\n# note\n", "=v", "[x]\n# note");
-    row("the empty key has no line", "a=1", "=v", "a=1\n");
-    row("NUL bytes", QByteArray("a\0=\0\nb=1", 8), "b=2", QByteArray("a\0=\0\nb=2", 8));
+    row("the first = counts", "Exec=run --opt=1\r\n\r\n\n", "Exec=v=w", "Exec=v=w");
+    row("keys have case", "A = 1\na=2\n", "a=3", "A=1\na=3");
     row("UTF-8 and bytes that are none", "n=\xe4\xb8\xad\n\xff\n", nullptr,
         "n=\xe4\xb8\xad\n\xef\xbf\xbd");
-
-    QByteArray many;
-    for (int i = 0; i < 50000; ++i)
-        many += "key" + QByteArray::number(i) + "=\xe4\xb8\xad\n";
-    row("many lines", many + "last=1", "last=2", many + "last=2");
-    const QByteArray longLine(5000000, 'x');
-    row("one long line", longLine + "=1", nullptr, longLine + "=1");
 }
 
 void TestConfFile::rewrites()
 {
     QFETCH(QByteArray, before);
     QFETCH(QString, change);
-    put(before);
     const LogCapture log;
     ConfFile conf(m_path);
+    put("old=1\n" + before);
     QVERIFY(conf.LoadConf());
+    put(before);
+    QVERIFY(conf.LoadConf()); // in place of what it held
     const int equals = change.indexOf(QLatin1Char('='));
     if (equals >= 0)
         conf.SetValue(change.left(equals), change.mid(equals + 1));
     else if (!change.isNull())
         conf.GetValue(change);
+    syncedBytes = -1;
     QVERIFY(conf.SaveConf());
     QFile file(m_path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QTEST(file.readAll(), "after");
+    QCOMPARE(syncedBytes, file.size());
 }
 
 void TestConfFile::failures()

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The EDID decoder, and moniconf-edid on top of it.
 #include "display/monitor/edid.h"
-#include "display/monitor/modes.h"
 #include "tests/support/edidblock.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <random>
 
 class TestEdid : public QObject
 {
@@ -18,7 +15,6 @@ private slots:
     void parts_data();
     void parts();
     void wholeDump();
-    void anyBytes();
     void tool_data();
     void tool();
 };
@@ -64,19 +60,30 @@ void TestEdid::parts_data()
         "native -1 1x2@3 limits -1 0-0 0-0");
     row("bad first byte", fullHd().set(0, "01").descriptor(1, '\xFD', "12345"),
         "Not a valid EDID\nnative 0 1920x1080@148500000 limits -1 0-0 0-0");
+    row("bad last byte", Block().set(7, "01"), "Not a valid EDID\n");
     row("version 0", Block().set(18, "00"), "Not a valid EDID\n");
     row("version 255.255", Block().set(18, "ffff"), "Not a valid EDID\n");
+    row("version 255.254", Block().set(18, "fffe"), "EDID version: 255.254\n");
     row("floating bus", QByteArray(EDID_BLOCK_SIZE, '\xFF'), "Not a valid EDID\n");
     // From offset 8: manufacturer, product code, serial number.
     row("MAG", Block().set(8, "3427000001000007"), "MAG\nSerial number: 00000001\n");
     row("MAG, none", Block().set(8, "34270000ffffffff"), "MAG\nSerial number: ffffffff\n");
+    row("OQI", Block().set(8, "3e290000f14b301b"), "OQI\nSerial number: 00000001\n");
+    row("VSC", Block().set(8, "5a630000ff9f2526"), "VSC\nSerial number: ffffffff\n");
+    row("digital", Block().set(20, "9a"),
+        "digital signal, voltage level 0, blank to black, separate sync, sync on green\n");
+    row("established, some", Block().set(35, "400180"),
+        "timings:\n\t720x400\t\t88 Hz (XGA2)\n\t1280x1024\t75 (VESA)\n"
+        "\t1152x870\t75 (Mac II)\nStandard");
     row("standard, nearly unused", Block().set(38, "0001010002413f3f014101c1"),
         "timings:\n\t248x155\t\t61 Hz\n\t256x160\t\t60 Hz\n\t264x198\t\t61 Hz\n\t752x470\t\t123 "
         "Hz\nnative");
     row("totals of 0", fullHd().timing(0, 9, 0, 0, 9, 9).timing(1, 9, 9, 9, 0, 0),
         "\t0x9\t\t1 Hz (detailed)\n\t9x0\t\t1 Hz (detailed)\nnative -1");
-    row("separators", Block().timing(0, 1, 1000, 9, 9, 9).timing(1, 1, 1001, 9, 9, 9),
-        "\t1000x9\t\t0 Hz (detailed)\n\t1001x9 \t0 Hz (detailed)\n");
+    row("the first timing counts",
+        Block().timing(0, 14850, 1000, 1200, 25, 1100).timing(1, 1, 1001, 9, 9, 9),
+        "\t1000x25\t\t60 Hz (detailed)\n\t1001x9 \t0 Hz (detailed)\nnative 0 1000x25@148500000 ");
+    row("the last slot", Block().timing(3, 1, 3000, 9, 2100, 9), "native 0 3000x2100@10000 ");
     row("text of blanks", Block().descriptor(0, '\xFE', QByteArray(13, ' ')), "r ID: \n\tNone\n");
     row("limits", Block().timing(0, 1, 9, 0xFD, 9, 9).descriptor(3, '\xFD', "\x01\xFF\x02\xFE\xFD"),
         "\nMonitor range limits, horizontal sync: 2-254 kHz, vertical refresh: 1-255 Hz, "
@@ -102,23 +109,6 @@ void TestEdid::wholeDump()
     QCOMPARE(QByteArray::fromStdString(edidText(edid)), dump.readAll());
 }
 
-// For the sanitizers: whatever a bus delivers has an answer.
-void TestEdid::anyBytes()
-{
-    std::mt19937 random(20);
-    for (int i = 0; i < 20000; ++i) {
-        unsigned char edid[EDID_BLOCK_SIZE];
-        for (unsigned char &byte : edid)
-            byte = random() % 3 == 0 ? 0 : random() & 0xFF;
-        if (i % 4 != 0)
-            std::copy_n(EdidBlock().bytes(), 8, edid);
-        QVERIFY(decoded(edid).contains("\nnative"));
-        T_NativeTiming native;
-        getNativeTiming(edid, native);
-        QVERIFY(monitorModes(native).entries.size() <= 8);
-    }
-}
-
 void TestEdid::tool_data()
 {
     QTest::addColumn<int>("status");
@@ -130,15 +120,14 @@ void TestEdid::tool_data()
     };
     const QByteArray dump = QByteArray::fromStdString(edidText(fullHd().bytes()));
     const QByteArray xga = "800 x 600\n1024 x 768\n";
-    const QByteArray wide = xga + "1280 x 720\n1280 x 800\n1360 x 768\n1440 x 900\n1680 x 1050\n";
+    const QByteArray wide =
+        xga + "1280 x 720\n1280 x 800\n1360 x 768\n1440 x 900\n1680 x 1050\n1920 x 1080\n";
 
     row("fullhd", 0, dump, "");
-    row("--modes fullhd", 0, wide + "1920 x 1080\n",
-        "8 wide modes\nmoniconf-edid: fullhd: the list ends");
-    row("wsxga --modes", 0, wide,
-        "before 1920 x 1080, which has 2073600 pixels, more than the 1764000");
+    row("--modes fullhd", 0, wide, "8 wide modes\nmoniconf-edid: fullhd: the list ends");
     row("--modes xga", 0, xga,
-        "4 normal modes\nmoniconf-edid: xga: the list stops before 1280 x 960");
+        "4 normal modes\nmoniconf-edid: xga: the list stops before 1280 x 960, which has 1228800 "
+        "pixels, more than the 786432");
     row("short", 1, "Not a valid EDID\n", "short: only 127 ");
     row("--modes bare", 1, "", "bare: no usable detailed timing");
     row("missing short fullhd", 2, "short:\nNot a valid EDID\nfullhd:\n" + dump,
@@ -156,7 +145,6 @@ void TestEdid::tool()
         return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size();
     };
     QVERIFY(put("fullhd", fullHd() + QByteArray(128, 'x'))); // with an extension
-    QVERIFY(put("wsxga", EdidBlock().timing(0, 14625, 1680, 560, 1050, 39)));
     QVERIFY(put("xga", EdidBlock().timing(0, 6500, 1024, 320, 768, 38)));
     QVERIFY(put("short", QByteArray(fullHd()).left(127)));
     QVERIFY(put("bare", EdidBlock()));
