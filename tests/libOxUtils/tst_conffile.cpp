@@ -68,6 +68,7 @@ void TestConfFile::rewrites_data()
     row("comments", "#in degrees\n#\n ## x # y\n", nullptr, "# in degrees\n#\n# # x # y");
     row("a setting before a comment is lost", "a=1 # note\nb=2 #\n", nullptr, "# note\nb=2");
     row("the key is after the comment", "# a=1", "a=2", "# a=1\na=2");
+    row("a missing key is asked for", "a=1", "b", "a=1\nb=");
     row("no setting", "[Desktop Entry]\n\n  words  \n=x\n = \n", nullptr,
         "[Desktop Entry]\n\nwords\n=x\n=");
     row("of two the first gets the later value", "a=1\nb=0\na=2", nullptr, "a=2\nb=0\na=2");

@@ -161,6 +161,7 @@ private slots:
             write("/etc/version"_s, system);
             write("/etc/orvex/patches_version.txt"_s, patches);
             GlobalVars::Init();
+            QCOMPARE(ProductFlags, barcode.contains("694") ? 207U : 0U);
             const QString says =
                 "About...|%1|All rights reserved.|Copyright (C) 2013-2030 Orvex|%2|OK"_s;
             open("F1"_s, {answer(says.arg(GetAppVersion(), labels), OK, [](QWidget *dialog) {
@@ -169,8 +170,8 @@ private slots:
                      QVERIFY(dialog->findChild<QLabel *>("lblVersion"_s)->font().bold());
                  })});
         };
-        shows("O\r\n\r\nB\r\n573KH214\r\n", "\n 2.0.1 \n3.0\n", "1.9", "p1\n p2 \n\n",
-              "Barcode: 573KH214|Rootfs Version: 2.0.1|Rootfs Patch: p2"_s);
+        shows("O\r\n\r\nB\r\n694KH214\r\n", "\n 2.0.1 \n3.0\n", "1.9", "p1\n p2 \n\n",
+              "Barcode: 694KH214|Rootfs Version: 2.0.1|Rootfs Patch: p2"_s);
         shows(NO_FILE, NO_FILE, "1.9\n", NO_FILE, "Barcode: |Rootfs Version: 1.9"_s);
         shows("O\nB\n527AB0x1\n", "\n\n", "1.9", "p1\n  ", "Barcode: 527AB0x1|Rootfs Patch: "_s);
         shows("O\n \nB\n573KH214\n", NO_FILE, NO_FILE, "", "Barcode: "_s);
@@ -188,12 +189,15 @@ private slots:
             block(obstacle);
             setClock(QDateTime(QDate(2019, 3, 5), QTime(7, 8, 9)));
             const QString says = "Setting Date Time|2019-03-05 7:08:09|OK|Cancel"_s;
-            Actions actions{answer(says, button, [](QWidget *dialog) {
-                const auto *editor = dialog->findChild<QDateTimeEdit *>();
+            const bool isEdited = obstacle == hardwareClock;
+            Actions actions{answer(says, button, [isEdited](QWidget *dialog) {
+                auto *editor = dialog->findChild<QDateTimeEdit *>();
                 QVERIFY(editor->calendarPopup() && editor->alignment() == Qt::AlignCenter);
                 setClock(editor->dateTime().addSecs(5));
+                if (isEdited)
+                    editor->setDateTime(editor->dateTime().addYears(1).addSecs(-7 * 3600));
             })};
-            if (obstacle == hardwareClock)
+            if (isEdited)
                 actions.push_back(answer("critical|Error|Setting date time failed.|OK"_s, OK));
             QCOMPARE(open("clock"_s, actions).section(u' ', 1), logged);
             QCOMPARE(calls(), called);
@@ -201,10 +205,9 @@ private slots:
             QDir(script).removeRecursively();
             write(hardwareClock, standIn);
         };
-        const QString date = "date -s 2019-03-05 07:08:09\n"_s;
-        sets(OK, NOTHING, date + "hwclock -w\n"_s, NOTHING);
+        sets(OK, NOTHING, "date -s 2019-03-05 07:08:09\nhwclock -w\n"_s, NOTHING);
         sets(CANCEL, NOTHING, NOTHING, NOTHING);
-        sets(OK, hardwareClock, date, NOTHING);
+        sets(OK, hardwareClock, "date -s 2020-03-05 00:08:09\n"_s, NOTHING);
         sets(OK, script, NOTHING,
              "void DialogMain::lblDateTime_mouseDoubleClicked() Copying calclock.sh failed."_s);
     }
@@ -380,6 +383,8 @@ private slots:
         m_window = std::make_unique<DialogMain>();
         write(BARCODE, barcodeBefore);
         open(title, {choice(title, NOTHING, "vexastd"_s)});
+        write(upgrader, NO_FILE); // which nobody is told
+        open("F12"_s, {});
     }
 
     void factoryReset()
