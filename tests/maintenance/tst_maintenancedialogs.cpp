@@ -415,8 +415,9 @@ private slots:
         const QString title = "Factory Reset"_s;
         leaves(NOTHING, QMessageBox::No, {}, all);
         leaves(NOTHING, QMessageBox::Yes, {choice(title, NOTHING)}, all);
+        leaves(NOTHING, QMessageBox::Yes, {choice(title, "vexastd"_s)}, otp + others);
         leaves(standard.last(), QMessageBox::Yes, {choice(title, "vexastd"_s)}, otp + others);
-        leaves(otp.last(), QMessageBox::Yes, {choice(title, "vxotp"_s)}, standard + others);
+        leaves(NOTHING, QMessageBox::Yes, {choice(title, "vxotp"_s)}, standard + others);
     }
 };
 
