@@ -215,15 +215,16 @@ private slots:
     void fan()
     {
         const QString conf = "/etc/fand.conf"_s;
-        const auto changes = [&](const QByteArray &before, const QString &shows, QList<int> entered,
-                                 const QByteArray &after) {
+        const auto changes = [&](const QByteArray &before, const QString &shows,
+                                 const QString &entered, const QByteArray &after) {
             write(conf, before);
             const bool isCancelled = before == after;
             const QString says = "Parameter Input Dialog|Temperature Lower Threshold:|%1|"
                                  "Temperature Upper Threshold:|%2|OK|Cancel"_s;
             const auto enter = [=](QWidget *dialog) {
-                for (int i = 0; i < entered.size(); ++i)
-                    dialog->findChildren<QSpinBox *>()[i]->setValue(entered[i]);
+                QTest::keyClicks(dialog->focusWidget(), entered.section(u' ', 0, 0));
+                QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+                QTest::keyClicks(dialog->focusWidget(), entered.section(u' ', 1));
                 if (after.isNull())
                     write(conf, NO_FILE);
             };
@@ -238,14 +239,14 @@ private slots:
         };
         const QByteArray lower = "temp_threshold_lower=";
         const QByteArray upper = "temp_threshold_upper=";
-        changes(lower + "60\n" + upper + "75\n", "60 75"_s, {}, lower + "60\n" + upper + "75");
-        changes("# Degrees\ntemp_threshold_lower = 95\n\nother=1\n", "90 1"_s, {80, 70},
+        changes(lower + "60\n" + upper + "75\n", "60 75"_s, NOTHING, lower + "60\n" + upper + "75");
+        changes("# Degrees\ntemp_threshold_lower = 95\n\nother=1\n", "90 1"_s, "80 70"_s,
                 "# Degrees\n" + lower + "80\n\nother=1\n" + upper + "70");
-        changes(upper + "4294967295\n" + lower + "0x3c", "1 100"_s, {},
+        changes(upper + "4294967295\n" + lower + "0x3c", "1 100"_s, NOTHING,
                 upper + "100\n" + lower + "1");
-        changes(lower + "7 \n\n", "7 1"_s, {9, 9}, lower + "7 \n\n");
+        changes(lower + "7 \n\n", "7 1"_s, "9 9"_s, lower + "7 \n\n");
         // Told although it cannot be saved any more; then there is nothing to show.
-        changes(lower + "5", "5 1"_s, {}, NO_FILE);
+        changes(lower + "5", "5 1"_s, NOTHING, NO_FILE);
         open("Fan Setting"_s, {});
     }
 
