@@ -95,7 +95,7 @@ class Bus:
         for place in range(0, count * 16, 16):
             head = bytes(messages.retrieve())[place:place + 6]
             address, flags, length = struct.unpack('=HHH', head)
-            if address != DDC_ADDRESS:
+            if address != DDC_ADDRESS or length != (128 if flags & I2C_M_RD else 1):
                 return -1, errno.ENXIO
             data = messages.resolve(place + 8, length)
             if flags & I2C_M_RD:

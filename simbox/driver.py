@@ -6,8 +6,10 @@ A test runs in the simulated box: simbox/simbox exec python3 tests/box/NAME.py
 
 import collections
 import re
+import shutil
 import subprocess
 import time
+import unittest
 from pathlib import Path
 
 import tables
@@ -161,5 +163,33 @@ def calls(first_words=''):
 
 
 def picture(file):
-    """Saves the screen, to look at when a test fails."""
-    output('import', '-window', 'root', file)
+    """Saves the screen, as far as there is one."""
+    subprocess.run(['import', '-window', 'root', file], check=False)
+
+
+class Result(unittest.TextTestResult):
+    """Keeps the screen and the tool's logs of a failed test before its cleanup ends the tool."""
+
+    def keep(self, test):
+        name = test.id().rpartition('.')[2]
+        picture(RUN / f'{name}.png')
+        for log in RUN.glob('tool*.log'):
+            shutil.copy(log, RUN / f'{name}.{log.name}')
+
+    def addError(self, test, err):
+        self.keep(test)
+        super().addError(test, err)
+
+    def addFailure(self, test, err):
+        self.keep(test)
+        super().addFailure(test, err)
+
+    def addSubTest(self, test, subtest, err):
+        if err:
+            self.keep(test)
+        super().addSubTest(test, subtest, err)
+
+
+def main(**words):
+    """Runs the tests of the program that calls it."""
+    unittest.main(**words, testRunner=unittest.TextTestRunner(verbosity=2, resultclass=Result))

@@ -27,7 +27,7 @@ SETTINGS = ('home/root/vexa_standard/vexaapp.ini', 'home/root/vexa_standard/user
             'home/root/vexa_otp/filemanager.ini')
 ENTRY = '[Desktop Entry]\nType=Application\nName={}\nExec={}\n'
 # Stand-ins for what must not reach the machine, or is a program of another maker.
-RECORD = 'echo "${0##*/} $*" >>/run/simbox/calls\n'
+RECORD = 'echo "${0##*/}${*:+ $*}" >>/run/simbox/calls\n'
 FILES = {
     'etc/passwd': 'root:x:0:0:root:/home/root:/bin/bash\n',
     'etc/group': 'root:x:0:\n',
@@ -44,6 +44,8 @@ FILES = {
     **dict.fromkeys(SETTINGS, '[General]\nlanguage=1\n'),
     'usr/local/bin/hwclock': f'#!/bin/sh\n{RECORD}',
     'usr/local/bin/upgrader': f'#!/bin/sh\n{RECORD}',
+    **{f'usr/local/bin/{name}': f'#!/bin/sh\n{RECORD}exec /usr/bin/{name} "$@"\n'
+       for name in ('fw_printenv', 'fw_setenv', 'sync', 'xrandr')},
     # Setting the clock is recorded and fails for what is no date; everything else is real.
     'usr/local/bin/date': '#!/bin/sh\n[ "$1" = -s ] || exec /usr/bin/date "$@"\n'
                           f'{RECORD}exec /usr/bin/date -d "$2"\n',

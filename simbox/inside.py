@@ -15,7 +15,7 @@ import time
 
 import devices
 from devices import RUN
-from driver import output
+from driver import output, picture
 from tables import MODES
 
 PATIENCE = 20       # seconds for a part of the box to come up
@@ -82,6 +82,7 @@ def main():
     except RuntimeError as failure:
         print(f'simbox: {failure}', file=sys.stderr)
         return 2
+    (RUN / 'calls').write_text('')      # from now on they are the tool's
     os.environ.update(environment)
     (RUN / 'up').touch()
     while session == 'tool':
@@ -94,6 +95,8 @@ def main():
     except OSError as error:
         print(f'simbox: {command[0]}: {error.strerror}', file=sys.stderr)
         return 127
+    if status != 0:
+        picture(RUN / 'end.png')
     return status if status >= 0 else 128 - status
 
 

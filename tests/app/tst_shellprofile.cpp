@@ -5,6 +5,25 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+namespace {
+
+QString profile;
+QByteArray synchronised; // what the profile held then
+
+QByteArray content()
+{
+    QFile file(profile);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+// Found before the C library's.
+extern "C" void sync() noexcept
+{
+    synchronised = content();
+}
+
 class TestShellProfile : public QObject
 {
     Q_OBJECT
@@ -24,15 +43,14 @@ void TestShellProfile::localeLines_data()
     const QByteArray zh = "export LANG=zh_CN.UTF-8";
     QTest::newRow("middle") << QByteArray("a\nexport LANG=en_US.UTF-8\nb\n")
                             << "a\n" + zh + "\nb\n";
+    QTest::newRow("the first of two") << QByteArray("export LANG=en_US.UTF-8\n export LANG=C # x\n")
+                                      << zh + "\n export LANG=C # x\n";
     QTest::newRow("none") << QByteArray("a\n") << "a\n" + zh;
     QTest::newRow("none, joined to an unended line") << QByteArray("a") << "a" + zh;
-    QTest::newRow("empty") << QByteArray() << zh;
     QTest::newRow("a longer line keeps its tail")
         << QByteArray("  export LANG=en_US.UTF-8 # set\nb\n") << zh + "-8 # set\nb\n";
     QTest::newRow("a shorter comment runs into the next line")
         << QByteArray("#export LANG=C\n0123456789\n") << zh + "89\n";
-    QTest::newRow("CRLF") << QByteArray("a\r\nexport LANG=en_US.UTF-8\r\nb\r\n")
-                          << "a\r\n" + zh + "\r\nb\r\n";
     QTest::newRow("bytes that are no text")
         << QByteArray("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14)
         << QByteArray("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14) + zh;
@@ -45,14 +63,15 @@ void TestShellProfile::localeLines()
 {
     QFETCH(QByteArray, before);
     const QTemporaryDir directory;
-    QFile file(directory.filePath(QStringLiteral("profile")));
+    profile = directory.filePath(QStringLiteral("profile"));
+    QFile file(profile);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(before);
     file.close();
 
     QVERIFY(writeLocaleLine(file.fileName(), localeLine(QStringLiteral("Chinese"))));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QTEST(file.readAll(), "after");
+    QTEST(content(), "after");
+    QTEST(synchronised, "after");
 }
 
 void TestShellProfile::missingProfileStaysMissing()

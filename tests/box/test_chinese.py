@@ -62,4 +62,4 @@ class Chinese(unittest.TestCase):
 
 
 if __name__ == '__main__':
-    unittest.main()
+    driver.main()

@@ -2,16 +2,16 @@
 # SPDX-License-Identifier: MIT
 """Modes, through the real window: chosen, kept, taken back."""
 
+import contextlib
 import signal
 import subprocess
+import time
 import unittest
 from pathlib import Path
 
 import driver
 from driver import (APPLY, click, click_row, keys, screen_size, stored_mode, wait_for,
                     wait_for_window, wait_until_gone)
-
-BOOT_CONFIG = Path('/etc/fw_env.config')
 
 
 class Display(unittest.TestCase):
@@ -28,12 +28,16 @@ class Display(unittest.TestCase):
         click(window, *APPLY, times=times, delay=120)
         return wait_for_window('Information')
 
+    @contextlib.contextmanager
     def stand_in(self, command, action):
         """Has a command do something of the test's before its own work."""
         script = Path('/usr/local/bin', command)
-        self.addCleanup(script.unlink, missing_ok=True)
-        script.write_text(f'#!/bin/sh\n{action}; exec /usr/bin/{command} "$@"\n')
-        script.chmod(0o755)
+        own = script.read_text()
+        script.write_text(own.replace('\n', f'\n{action}\n', 1))
+        try:
+            yield
+        finally:
+            script.write_text(own)
 
     @staticmethod
     def is_on_screen(window):
@@ -79,23 +83,11 @@ class Display(unittest.TestCase):
 
     def test_no_answer(self):
         self.apply(2)
+        start = time.monotonic()
         self.assertEqual(screen_size(), '1280x720')
-        wait_for(lambda: screen_size() == '1920x1080', 'the mode before', 60)
+        wait_for(lambda: screen_size() == '1920x1080', 'the mode before', 45)
+        self.assertGreater(time.monotonic() - start, 25)
         wait_until_gone('Information')
-        self.assertEqual(stored_mode(), '1920x1080M@60')
-
-    def test_store_fails(self):
-        self.apply(1)
-        config = BOOT_CONFIG.read_text()
-        self.addCleanup(BOOT_CONFIG.write_text, config)
-        BOOT_CONFIG.unlink()
-        keys('Tab', 'space')
-        wait_for_window('Error')
-        BOOT_CONFIG.write_text(config)
-        keys('Return')
-        wait_for_window('Display Settings')
-        # No roll-back, and the mode can be applied again.
-        self.assertEqual(screen_size(), '1024x768')
         self.assertEqual(stored_mode(), '1920x1080M@60')
 
     def test_signals_while_asking(self):
@@ -118,15 +110,15 @@ class Display(unittest.TestCase):
                                              ('fw_setenv', 'true', '800x600@60', '800x600')):
             with self.subTest(command, end=end):
                 subprocess.run(['xrandr', '-s', '1920x1080', '-r', '60'], check=True)
-                self.stand_in(command, f'kill -TERM {self.tool.process.pid} 2>/dev/null; {end}')
-                window = wait_for_window('Display Settings')
-                click_row(window, 0)
-                click(window, *APPLY)
-                if command == 'fw_setenv':
-                    wait_for_window('Information')
-                    keys('Tab', 'space')
-                self.assertEqual(self.tool.wait_for_end(), -signal.SIGTERM)
-                Path('/usr/local/bin', command).unlink()
+                pid = self.tool.process.pid
+                with self.stand_in(command, f'kill -TERM {pid} 2>/dev/null; {end}'):
+                    window = wait_for_window('Display Settings')
+                    click_row(window, 0)
+                    click(window, *APPLY)
+                    if command == 'fw_setenv':
+                        wait_for_window('Information')
+                        keys('Tab', 'space')
+                    self.assertEqual(self.tool.wait_for_end(), -signal.SIGTERM)
                 self.assertEqual((stored_mode(), screen_size()), (stored, screen))
                 self.tool = driver.Tool()
                 self.addCleanup(self.tool.stop)
@@ -141,35 +133,16 @@ class Display(unittest.TestCase):
         keys('Tab', 'space')
         wait_for(lambda: stored_mode() == '800x600@60', 'stored mode')
 
-    def test_other_monitor_and_none(self):
-        window = wait_for_window('Display Settings')
-        keys('Tab')
-        driver.plug('hdmi', 'none')
-        keys('space', 'space')
-        wait_for_window('Error')
-        keys('Return')
-        wait_for_window('Display Settings')
-        driver.plug('vga', '1280x1024')
-        self.addCleanup(driver.plug, 'vga', 'none')
-        keys('space', 'space')
-        wait_for(lambda: driver.calls('i2c vga answered'), 'a look at the VGA monitor')
-        click_row(window, 3)
-        click(window, *APPLY)
-        wait_for_window('Information')
-        self.assertEqual(screen_size(), '1280x1024')
-        led = wait_for(lambda: driver.calls('vga switched'), 'the switch of the VGA lines')
-        self.assertEqual(led, ['vga switched 1', 'vga switched 0'] * (len(led) // 2))
-
     def test_child_processes_are_spared_the_toolkit_setting(self):
         window = wait_for_window('Display Settings')
-        self.stand_in('xrandr', 'env >/tmp/environment')
-        click_row(window, 0)
-        click(window, *APPLY)
-        wait_for_window('Information')
+        with self.stand_in('xrandr', 'env >/tmp/environment'):
+            click_row(window, 0)
+            click(window, *APPLY)
+            wait_for_window('Information')
         self.assertNotIn('QT_XCB', Path('/tmp/environment').read_text())
         maps = Path(f'/proc/{self.tool.process.pid}/maps').read_text()
         self.assertNotIn('glx-integration', maps)
 
 
 if __name__ == '__main__':
-    unittest.main()
+    driver.main()

@@ -33,4 +33,4 @@ class Maintenance(unittest.TestCase):
 
 
 if __name__ == '__main__':
-    unittest.main()
+    driver.main()

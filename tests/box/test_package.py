@@ -82,4 +82,4 @@ class Package(unittest.TestCase):
 
 
 if __name__ == '__main__':
-    unittest.main(argv=sys.argv[:1])
+    driver.main(argv=sys.argv[:1])

@@ -23,7 +23,7 @@ class SingleInstance(unittest.TestCase):
         self.addCleanup(lambda: [tool.stop() for tool in self.started])
 
     def start(self, *arguments):
-        self.started.append(driver.Tool(*arguments, log=f'/tmp/log{len(self.started)}'))
+        self.started.append(driver.Tool(*arguments, log=driver.RUN / f'tool{len(self.started)}.log'))
         return self.started[-1]
 
     def test_second_start_ends(self):
@@ -95,4 +95,4 @@ class SingleInstance(unittest.TestCase):
 
 
 if __name__ == '__main__':
-    unittest.main()
+    driver.main()

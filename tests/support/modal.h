@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
@@ -17,13 +18,14 @@
 
 // Calls one action for each modal dialog that appears, in order. A dialog that opens while another
 // one is up (a message box, say) takes the next action. Declare it before the call that opens the
-// first dialog; at the end of its scope every action must have been used.
+// first dialog; at the end of its scope every action must have been used. Without any action it is
+// a deadline: a dialog that stays is closed, and named in the failure.
 class ModalAnswers : public QObject
 {
 public:
     using Action = std::function<void(QWidget *)>;
 
-    explicit ModalAnswers(std::vector<Action> actions, int timeoutMs = 60000)
+    explicit ModalAnswers(std::vector<Action> actions, int timeoutMs = 20000)
         : m_actions(std::move(actions))
         , m_timeoutMs(timeoutMs)
     {
@@ -44,6 +46,8 @@ private:
     void look()
     {
         QWidget *const dialog = QApplication::activeModalWidget();
+        if (std::exchange(m_current, dialog) != dialog)
+            m_sinceLast.restart();
         if (!dialog)
             return;
         if (m_used < m_actions.size() && !m_seen.contains(dialog)) {
@@ -59,7 +63,10 @@ private:
                     dialog->close();
             });
         } else if (m_sinceLast.hasExpired(m_timeoutMs)) {
-            fail("an unexpected modal dialog, or one that did not close");
+            const auto *box = qobject_cast<QMessageBox *>(dialog);
+            const QString what =
+                dialog->windowTitle() + QStringLiteral(": ") + (box ? box->text() : QString());
+            fail(qPrintable(QStringLiteral("nobody answers, or closes, ") + what));
             dialog->close();
         }
     }
@@ -68,6 +75,7 @@ private:
     const int m_timeoutMs;
     std::size_t m_used = 0;
     QList<QPointer<QWidget>> m_seen;
+    QWidget *m_current = nullptr;
     QElapsedTimer m_sinceLast;
     QTimer m_poll;
 };

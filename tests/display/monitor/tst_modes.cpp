@@ -9,7 +9,6 @@ class TestModes : public QObject
     Q_OBJECT
 
 private slots:
-    void offered_data();
     void offered();
 };
 
@@ -27,51 +26,39 @@ QString sizes(const T_ResolutionEntry *begin, const T_ResolutionEntry *end)
     return list.join(QLatin1Char(' '));
 }
 
-} // namespace
-
-void TestModes::offered_data()
+const struct
 {
-    QTest::addColumn<quint32>("width");
-    QTest::addColumn<quint32>("height");
-    QTest::addColumn<bool>("isNormal");
-    QTest::addColumn<QString>("modes");
-    QTest::addColumn<QString>("next"); // the mode that is too large
+    quint32 width;
+    quint32 height;
+    bool isNormal;
+    int count; // of the modes offered
+} ROWS[] = {
+    {640, 480, true, 0},    {1024, 768, true, 2},   {1280, 1024, true, 4},
+    {1400, 1050, true, 4},  {1600, 1200, true, 4},  {2501, 1876, true, 4}, // 7500.99..., cut off
+    {1152, 870, false, 3},  {1680, 1050, false, 7}, {1920, 1079, false, 7},
+    {1920, 1080, false, 8}, {480, 1000, false, 1}, // its pixels count, not its width
+    {0, 1080, false, 0},    {1080, 0, false, 0},
+};
 
-    const QString list[] = {
-        QStringLiteral("800x600 1024x768 1280x960 1280x1024"),
-        QStringLiteral("800x600 1024x768 1280x720 1280x800 1360x768 1440x900 1680x1050 1920x1080"),
-    };
-    const auto row = [&list](quint32 width, quint32 height, bool isNormal, int count) {
-        const QStringList all = list[isNormal ? 0 : 1].split(QLatin1Char(' '));
-        QTest::addRow("%ux%u", width, height)
-            << width << height << isNormal << QStringList(all.mid(0, count)).join(QLatin1Char(' '))
-            << all.value(count);
-    };
-    const bool normal = true;
-    const bool wide = false;
-    row(640, 480, normal, 0);
-    row(1024, 768, normal, 2);
-    row(1280, 1024, normal, 4);
-    row(1400, 1050, normal, 4);
-    row(1600, 1200, normal, 4);
-    row(2501, 1876, normal, 4); // 7500.99..., cut off
-    row(1152, 870, wide, 3);
-    row(1680, 1050, wide, 7);
-    row(1920, 1079, wide, 7);
-    row(1920, 1080, wide, 8);
-    row(480, 1000, wide, 1); // its pixels count, not its width
-    row(0, 1080, wide, 0);
-    row(1080, 0, wide, 0);
-}
+} // namespace
 
 void TestModes::offered()
 {
-    QFETCH(quint32, width);
-    QFETCH(quint32, height);
-    const T_MonitorModes found = monitorModes({width, height, 0});
-    QTEST(found.isNormal, "isNormal");
-    QTEST(sizes(found.entries.data(), found.entries.data() + found.entries.size()), "modes");
-    QTEST(sizes(found.tooLarge, found.tooLarge == nullptr ? nullptr : found.tooLarge + 1), "next");
+    const QString list[] = {
+        QStringLiteral("800x600 1024x768 1280x720 1280x800 1360x768 1440x900 1680x1050 1920x1080"),
+        QStringLiteral("800x600 1024x768 1280x960 1280x1024"),
+    };
+    for (const auto &row : ROWS) {
+        const QStringList all = list[row.isNormal].split(QLatin1Char(' '));
+        const QString native = QStringLiteral("%1x%2: ").arg(row.width).arg(row.height);
+        const T_MonitorModes found = monitorModes({row.width, row.height, 0});
+        QCOMPARE(found.isNormal, row.isNormal);
+        QCOMPARE(native + sizes(found.entries.data(), found.entries.data() + found.entries.size()),
+                 native + QStringList(all.mid(0, row.count)).join(QLatin1Char(' ')));
+        // The mode that is too large.
+        QCOMPARE(native + sizes(found.tooLarge, found.tooLarge + (found.tooLarge ? 1 : 0)),
+                 native + all.value(row.count));
+    }
 }
 
 QTEST_APPLESS_MAIN(TestModes)
