@@ -29,6 +29,7 @@ NODE = 'P: /devices/{0}\nN: {0}\nE: DEVNAME=/dev/{0}\nE: SUBSYSTEM=box\n\n'
 LED = 'P: /devices/leds/{}\nE: SUBSYSTEM=leds\nA: brightness=0\n\n'
 
 
+LEDS = []
 calls = os.open(RUN / 'calls', os.O_WRONLY | os.O_APPEND | os.O_CREAT)
 
 
@@ -46,6 +47,7 @@ class Led:
         self.pipe = os.open(path, os.O_RDWR | os.O_NONBLOCK)
         self.lit = False
         self.lock = threading.Lock()
+        LEDS.append(self)
         threading.Thread(target=self.watch, daemon=True).start()
 
     def watch(self):
@@ -73,6 +75,8 @@ class Bus:
     def ioctl(self, request, argument):
         if request != I2C_RDWR:
             return -1, errno.ENOTTY
+        for led in LEDS:        # what was switched before is recorded before
+            led.is_lit()
         status = os.stat(self.file)
         plugged = status.st_mtime_ns, status.st_ino
         if plugged != self.plugged:
