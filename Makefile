@@ -21,7 +21,7 @@ check: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
 # All that there is, for before a release; takes long, and downloads much.
-check-all: check lint check-asan check-qt6 check-armhf check-board check-reproducible check-source
+check-all: check lint check-asan check-qt6 check-armhf check-reproducible check-source
 
 # The tests, with AddressSanitizer and UBSan.
 check-asan: packages
