@@ -7,8 +7,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <algorithm>
-#include <clocale>
+#include <tuple>
 
 #include <poll.h>
 #include <sys/syscall.h>
@@ -17,9 +16,6 @@
 
 namespace {
 
-constexpr int START_MS = 11000;
-constexpr int FINISH_MS = 12000;
-constexpr int SHORT_MS = 50;
 const QString LOG_FILE = QStringLiteral("libOxUtils/utils/utils");
 
 QString text(const char *utf8)
@@ -54,8 +50,6 @@ extern "C" int ppoll(pollfd *files, nfds_t count, const timespec *timeout, const
         waits << int(time.tv_sec) + (time.tv_nsec > 0 ? 1 : 0);
         if (waits.last() >= 20)
             time = {0, 20000000};
-        if (waits.size() > 1000)
-            qFatal("a wait without end");
     }
     return int(syscall(SYS_ppoll, files, count, timeout ? &time : nullptr, mask, _NSIG / 8));
 }
@@ -67,72 +61,59 @@ class TestUtils : public QObject
     QTemporaryDir m_directory;
 
 private slots:
-    void initTestCase() { std::setlocale(LC_MESSAGES, "C"); }
-    void commands_data();
     void commands();
     void scripts();
     void scriptEndsWhileEventsAreServed();
-    void otherMembers();
+    void mountPointAndVersion();
+    void oldFiles();
+    void semaphoresAndTexts();
 };
-
-void TestUtils::commands_data()
-{
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second"); // null: a command alone
-    QTest::addColumn<bool>("result");
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<QString>("error");
-    QTest::addColumn<QString>("log");
-
-    const auto row = [](const char *name, const char *first, const char *second, bool result,
-                        const char *output, const char *error = "", const char *log = nullptr) {
-        QTest::newRow(name) << first << second << result << output << error << log;
-    };
-    const char *unstarted = "C Starting process failed - waitForStarted.";
-    const char *timedOut = "C Executing process timeout - waitForFinished.";
-    const char *missing = "/nonexistent/program";
-    row("writes to both", "sh -c \"echo out; echo err >&2\"", nullptr, true, "out\n", "err\n");
-    row("exit code", "sh -c \"echo out; echo err >&2; exit 3\"", nullptr, false, "out\n", "err\n");
-    row("ended by a signal", "sh -c \"echo out; kill -9 $$\"", nullptr, false, "out\n");
-    row("no shell", "echo a | b > $HOME *", nullptr, true, "a | b > $HOME *\n");
-    row("UTF-8 up to a NUL", "printf \\303\\244\\377x\\000y", nullptr, true, "\u00e4\ufffdx");
-    row("missing", missing, nullptr, false, "old", "old", unstarted);
-    row("empty", "", nullptr, false, "old", "old", unstarted);
-    row("too long", "sleep 600", nullptr, false, "old", "old", timedOut);
-    row("first too long", "sleep 600", "cat", false, "old", "old", timedOut);
-    row("second too long", "echo x", "sleep 600", false, "old", "old", timedOut);
-    row("quoted blank", "printf \"a b c\\nd e\\n\"", "cut -d \" \" -f 2", true, "b\ne\n");
-    row("the second's errors only", "ls /nonexistent/", "sh -c \"echo 2 >&2\"", false, "", "2\n");
-    row("first fails", "sh -c \"echo x; exit 1\"", "cat", false, "x\n");
-    row("first missing", missing, "cat", false, "old", "old", unstarted);
-    row("second missing", "echo x", missing, false, "old", "old", unstarted);
-}
 
 void TestUtils::commands()
 {
-    QFETCH(QString, first);
-    QFETCH(QString, second);
-    QString output = text("old");
-    QString error = text("old");
-    const int finishMs = (first + second).contains(text("sleep")) ? SHORT_MS : FINISH_MS;
-    waits.clear();
-    const LogCapture log;
-    QTEST(second.isNull()
-              ? Utils::ExecShellCommand(first, output, error, START_MS, finishMs)
-              : Utils::ExecPipeShellCommand(first, second, output, error, START_MS, finishMs),
-          "result");
-    QVERIFY(log.messages().isEmpty() ? waits.contains(11) && waits.contains(12)
-                                     : !waits.contains(12));
-    QTEST(output, "output");
-    QTEST(error, "error");
-    QTEST(log.texts(LOG_FILE).join(QLatin1Char('\n')), "log");
-    QVERIFY(!hasChildren());
-    const QString function =
-        text("static bool Utils::%1const QString&, QString&, QString&, int, int)");
-    const char *const name =
-        second.isNull() ? "ExecShellCommand(" : "ExecPipeShellCommand(const QString&, ";
-    if (!log.messages().isEmpty())
-        QCOMPARE(log.messages().first().function, function.arg(text(name)));
+    const char *const unstarted = "C Starting process failed - waitForStarted.";
+    const char *const timedOut = "C Executing process timeout - waitForFinished.";
+    const char *const missing = "/nonexistent/program";
+    using Text = const char *;
+    // Two commands, or one; whether they succeed; output, error and log.
+    const std::tuple<Text, Text, bool, Text, Text, Text> rows[] = {
+        {"sh -c \"echo out; echo err >&2\"", nullptr, true, "out\n", "err\n", ""},
+        {"sh -c \"echo out; echo err >&2; exit 3\"", nullptr, false, "out\n", "err\n", ""},
+        {"sh -c \"echo out; kill -9 $$\"", nullptr, false, "out\n", "", ""},
+        {"echo a | b > $HOME *", nullptr, true, "a | b > $HOME *\n", "", ""},
+        {"printf \\303\\244x\\000y", nullptr, true, "\u00e4x", "", ""},
+        {missing, nullptr, false, "old", "old", unstarted},
+        {"sleep 600", nullptr, false, "old", "old", timedOut},
+        {"sleep 600", "cat", false, "old", "old", timedOut},
+        {"echo x", "sleep 600", false, "old", "old", timedOut},
+        {"printf \"a b c\\nd e\\n\"", "cut -d \" \" -f 2", true, "b\ne\n", "", ""},
+        {"ls /nonexistent/", "sh -c \"echo 2 >&2\"", false, "", "2\n", ""},
+        {"sh -c \"echo x; exit 1\"", "cat", false, "x\n", "", ""},
+        {missing, "cat", false, "old", "old", unstarted},
+        {"echo x", missing, false, "old", "old", unstarted},
+    };
+    for (const auto &[one, two, isWell, expectedOutput, expectedError, logged] : rows) {
+        QString output = text("old");
+        QString error = text("old");
+        const QString first = text(one);
+        const QString second = text(two);
+        const int finishMs = (first + second).contains(text("sleep")) ? 50 : 12000;
+        waits.clear();
+        const LogCapture log;
+        const bool result =
+            two ? Utils::ExecPipeShellCommand(first, second, output, error, 11000, finishMs)
+                : Utils::ExecShellCommand(first, output, error, 11000, finishMs);
+        QVERIFY2(result == isWell, one);
+        QCOMPARE(output, text(expectedOutput));
+        QCOMPARE(error, text(expectedError));
+        QCOMPARE(log.texts(LOG_FILE).join(QString()), text(logged));
+        QVERIFY(!hasChildren());
+        if (log.messages().isEmpty())
+            QVERIFY(waits.contains(11) && waits.contains(12));
+        else
+            QVERIFY(log.messages().first().function.contains(
+                text(two ? " Utils::ExecPipeShellCommand(" : " Utils::ExecShellCommand(")));
+    }
 }
 
 void TestUtils::scripts()
@@ -178,49 +159,49 @@ void TestUtils::scriptEndsWhileEventsAreServed()
     QCOMPARE(log.texts(LOG_FILE).value(0), text("D readAllStandardOutput: late\n"));
 }
 
-void TestUtils::otherMembers()
+void TestUtils::mountPointAndVersion()
 {
     const QString program = m_directory.filePath(text("program"));
-    write(program, "#!/bin/sh\n[ \"$*\" = -v ] && echo program 1.2.3 of today\n");
-    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+    write(program, "[ \"$*\" = -v ] && echo program 1.2.3 of today");
     waits.clear();
-    QCOMPARE(Utils::GetProgramVersion(program), text("1.2.3"));
+    QCOMPARE(Utils::GetProgramVersion(text("sh ") + program), text("1.2.3"));
+    QVERIFY(waits.contains(3) && waits.contains(5));
     QCOMPARE(Utils::GetProgramVersion(text("false")), QString());
+    waits.clear();
     const LogCapture log;
     QString mountPoint;
     QVERIFY(Utils::GetMountPointFromDevNode(mountPoint, text("proc")));
-    QCOMPARE(mountPoint, text("/proc"));
+    QVERIFY(waits.contains(1) && waits.contains(5));
     QVERIFY(!Utils::GetMountPointFromDevNode(mountPoint, text("/dev/not-mounted")));
     QCOMPARE(mountPoint, text("/proc"));
     QCOMPARE(log.texts(LOG_FILE), QStringList(text("C \"\"")));
-    std::sort(waits.begin(), waits.end());
-    waits.erase(std::unique(waits.begin(), waits.end()), waits.end());
-    QCOMPARE(waits, QList<int>({1, 3, 5}));
+}
 
+void TestUtils::oldFiles()
+{
     const QDir dir(m_directory.path());
-    const auto name = [](int days, const char *suffix) {
-        return text("log%1%2").arg(QDate::currentDate().addDays(days).toString(text("yyyyMMdd")),
-                                   text(suffix));
-    };
     setClock(QDateTime(QDate(2019, 3, 1), QTime(0, 0)));
-    for (const int days : {-6, -5, 5, 6})
-        write(dir.filePath(name(days, ".txt")), "");
-    write(dir.filePath(name(-6, ".log")), "");
-    write(dir.filePath(text("log20190230.txt")), "");
+    for (const char *name :
+         {"0223.log", "0223.txt", "0224.txt", "0230.txt", "0306.txt", "0307.txt"})
+        write(dir.filePath(text("log2019") + text(name)), "");
+    const LogCapture log;
     Utils::ClearOldFiles(dir.path(), {text("*.txt")}, 5);
-    QCOMPARE(dir.entryList({text("log*")}, QDir::Files, QDir::Name),
-             QStringList(
-                 {name(-6, ".log"), name(-5, ".txt"), text("log20190230.txt"), name(5, ".txt")}));
-    const QString removed = text("D Remove outdated old file ");
-    QCOMPARE(log.texts(LOG_FILE).mid(1),
-             QStringList({removed + name(-6, ".txt"), removed + name(6, ".txt")}));
+    QCOMPARE(dir.entryList({text("log*")}).join(QLatin1Char(' ')),
+             text("log20190223.log log20190224.txt log20190230.txt log20190306.txt"));
+    QCOMPARE(log.texts(LOG_FILE).join(QLatin1Char(' ')),
+             text("D Remove outdated old file log20190223.txt "
+                  "D Remove outdated old file log20190307.txt"));
+}
 
+void TestUtils::semaphoresAndTexts()
+{
+    const LogCapture log;
     QSemaphore semaphore(2);
-    for (const int count : {-4, 3, 10}) {
+    for (const int count : {3, 3, 0, 10}) {
         Utils::InitSemaphore(&semaphore, count);
-        QCOMPARE(semaphore.available(), qMax(0, count));
+        QCOMPARE(semaphore.available(), count);
+        QCOMPARE(log.texts(LOG_FILE).last(), text("D available: %1").arg(count));
     }
-    QCOMPARE(log.texts(LOG_FILE).last(), text("D available: 10"));
     const int taken[][2] = {{0, 1}, {5, 1}, {6, 2}, {10, 2}, {11, 3}}; // time-out and takes
     for (const auto &[timeoutMs, takes] : taken) {
         QVERIFY(!Utils::DrainSemaphore(&semaphore, 1, timeoutMs));
@@ -236,9 +217,9 @@ void TestUtils::otherMembers()
     QCOMPARE(Utils::ErrnoString(text("a %2"), 2),
              text("a %2 [ERRNO: 2 No such file or directory]"));
     QCOMPARE(Utils::GetFileMd5(text("/nonexistent")), text("D41D8CD98F00B204E9800998ECF8427E"));
-    write(dir.filePath(text("abc")), "abc");
-    QCOMPARE(Utils::GetFileMd5(dir.filePath(text("abc"))),
-             text("900150983CD24FB0D6963F7D28E17F72"));
+    const QString file = m_directory.filePath(text("abc"));
+    write(file, "abc");
+    QCOMPARE(Utils::GetFileMd5(file), text("900150983CD24FB0D6963F7D28E17F72"));
 }
 
 QTEST_GUILESS_MAIN(TestUtils)
