@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The gamma curve against tables that were derived apart from it, in another language: arctangent
 // and power with 400 bits, each result then rounded to single or double precision as the curve's
-// definition names it. No value comes closer than 900 units in its last place to where the rounding
-// turns.
+// definition names it, the integer steps in 32 bits. For positive gammas no value comes closer than
+// 900 units in its last place to where the rounding turns.
 #include "display/gammacurve.h"
 
 #include <QtTest>
@@ -26,6 +26,11 @@ void TestGammaCurve::curve()
          "0 16 16 24 40 49 35 26 21 17 16 14 13 13 11 11 "},
         {0.45F, "0 0 0 0 0 0 3 10 20 34 52 74 101 133 169 209 ",
          "0 0 0 0 0 3 7 10 14 18 22 27 32 36 40 45 "},
+        // Too large to be rounded away, so it shows every last bit; it saturates and wraps.
+        {-0.25F, "1 62 264 242 168 340 299 267 118 205 304 82 238 282 12 360 ",
+         "-32 1593408528 -118364736 -291103208 -20366676 2145879511 2147309024 2147447659 "
+         "2147472983 2147479651 2147481890 2147482780 2147483180 2147483378 2147483484 "
+         "2147483546 "},
         // What is no number is applied as 0.
         {0.0F, "0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 ", "0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 "},
     };
