@@ -1,97 +1,68 @@
 // SPDX-License-Identifier: MIT
 #include "app/shellprofile.h"
+#include "tests/support/box.h"
 #include "tests/support/logcapture.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+
+#include <tuple>
 
 namespace {
 
 QString profile;
 QByteArray synchronised; // what the profile held then
 
-QByteArray content()
-{
-    QFile file(profile);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 // Found before the C library's.
 extern "C" void sync() noexcept
 {
-    synchronised = content();
+    synchronised = box::read(profile);
 }
 
 class TestShellProfile : public QObject
 {
     Q_OBJECT
 
+    const QTemporaryDir m_directory;
+
 private slots:
-    void localeLines_data();
-    void localeLines();
-    void missingProfileStaysMissing();
-    void readErrorKeepsProfile();
+    void localeLines()
+    {
+        const QByteArray zh = "export LANG=zh_CN.UTF-8";
+        const QByteArray noText("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14);
+        const std::tuple<const char *, QByteArray, QByteArray> rows[] = {
+            {"of two", "export LANG=en_US.UTF-8\n export LANG=C\n", zh + "\n export LANG=C\n"},
+            {"none, joined to an unended line", "a", "a" + zh},
+            {"a longer one", "  export LANG=en_US.UTF-8 # x\nb\n", zh + "-8 # x\nb\n"},
+            {"a shorter one", "#export LANG=C\n0123456789\n", zh + "89\n"},
+            {"none, after bytes that are no text", noText, noText + zh},
+        };
+        profile = m_directory.filePath(QStringLiteral("profile"));
+        for (const auto &[name, before, after] : rows) {
+            box::write(profile, before);
+            QVERIFY(writeLocaleLine(profile, localeLine(QStringLiteral("Chinese"))));
+            QVERIFY2(box::read(profile) == after, name);
+            QVERIFY2(synchronised == after, name);
+        }
+        QCOMPARE(localeLine(QStringLiteral("chinese")), QByteArray("export LANG=en_US.UTF-8"));
+    }
+
+    void failures()
+    {
+        const QString missing = m_directory.filePath(QStringLiteral("missing"));
+        QVERIFY(!writeLocaleLine(missing, "x"));
+        QVERIFY(!QFile::exists(missing));
+        QVERIFY(!writeLocaleLine(m_directory.path(), "x"));
+
+        // Reading this process's memory from its start fails as a worn-out storage does.
+        const LogCapture log;
+        QVERIFY(writeLocaleLine(QStringLiteral("/proc/self/mem"), "x"));
+        QCOMPARE(log.texts(QStringLiteral("shellprofile")),
+                 QStringList(
+                     QStringLiteral("C Reading /proc/self/mem failed, nothing is written.")));
+    }
 };
-
-void TestShellProfile::localeLines_data()
-{
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("after"); // for Chinese
-
-    const QByteArray zh = "export LANG=zh_CN.UTF-8";
-    QTest::newRow("middle") << QByteArray("a\nexport LANG=en_US.UTF-8\nb\n")
-                            << "a\n" + zh + "\nb\n";
-    QTest::newRow("the first of two") << QByteArray("export LANG=en_US.UTF-8\n export LANG=C # x\n")
-                                      << zh + "\n export LANG=C # x\n";
-    QTest::newRow("none") << QByteArray("a\n") << "a\n" + zh;
-    QTest::newRow("none, joined to an unended line") << QByteArray("a") << "a" + zh;
-    QTest::newRow("a longer line keeps its tail")
-        << QByteArray("  export LANG=en_US.UTF-8 # set\nb\n") << zh + "-8 # set\nb\n";
-    QTest::newRow("a shorter comment runs into the next line")
-        << QByteArray("#export LANG=C\n0123456789\n") << zh + "89\n";
-    QTest::newRow("bytes that are no text")
-        << QByteArray("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14)
-        << QByteArray("\xff\xfe\xc3(\0\x80\n# \xe4\xb8\nx\n", 14) + zh;
-    const QByteArray large = QByteArray(2 * 1024 * 1024, 'x').replace(99, 1, "\n");
-    QTest::newRow("beyond any buffer") << large + "\nexport LANG=en_US.UTF-8\n"
-                                       << large + "\n" + zh + "\n";
-}
-
-void TestShellProfile::localeLines()
-{
-    QFETCH(QByteArray, before);
-    const QTemporaryDir directory;
-    profile = directory.filePath(QStringLiteral("profile"));
-    QFile file(profile);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(before);
-    file.close();
-
-    QVERIFY(writeLocaleLine(file.fileName(), localeLine(QStringLiteral("Chinese"))));
-    QTEST(content(), "after");
-    QTEST(synchronised, "after");
-}
-
-void TestShellProfile::missingProfileStaysMissing()
-{
-    const QTemporaryDir directory;
-    const QString missing = directory.filePath(QStringLiteral("profile"));
-    QVERIFY(!writeLocaleLine(missing, "x"));
-    QVERIFY(!QFile::exists(missing));
-    QVERIFY(!writeLocaleLine(directory.path(), "x"));
-    QCOMPARE(localeLine(QStringLiteral("chinese")), QByteArray("export LANG=en_US.UTF-8"));
-}
-
-void TestShellProfile::readErrorKeepsProfile()
-{
-    // Reading this process's memory from its start fails as a worn-out storage does.
-    const LogCapture log;
-    QVERIFY(writeLocaleLine(QStringLiteral("/proc/self/mem"), "x"));
-    QCOMPARE(log.texts(QStringLiteral("shellprofile")),
-             QStringList(QStringLiteral("C Reading /proc/self/mem failed, nothing is written.")));
-}
 
 QTEST_GUILESS_MAIN(TestShellProfile)
 #include "tst_shellprofile.moc"

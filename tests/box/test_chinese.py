@@ -4,7 +4,6 @@
 
 import os
 import shutil
-import subprocess
 import unittest
 from pathlib import Path
 
@@ -17,7 +16,6 @@ HOME = Path('/opt/moniconf')
 class Chinese(unittest.TestCase):
     def start(self, language, *arguments):
         os.environ['LANG'] = f'{language}.UTF-8'
-        self.addCleanup(os.environ.update, LANG='zh_CN.UTF-8')
         tool = driver.Tool(*arguments)
         self.addCleanup(tool.stop)
         return tool
@@ -34,12 +32,10 @@ class Chinese(unittest.TestCase):
             keys('F1')
             wait_for_window('关于')
             keys('Return')
-            wait_until_gone('关于')
             wait_for_window('显示设置')
             driver.choose(window, 'Factory Reset')
             question = wait_for_window('确认')
-            pictures.append(subprocess.run(['import', '-window', question, 'rgb:-'],
-                                           stdout=subprocess.PIPE, check=True).stdout)
+            pictures.append(driver.output('import', '-window', question, 'txt:-'))
             tool.stop()
             wait_until_gone('显示设置')
             shutil.copy(HOME / 'moniconf_zh_CN.qm', HOME / 'moniconf_en_US.qm')
@@ -54,7 +50,6 @@ class Chinese(unittest.TestCase):
         driver.choose(window, 'Preference')
         wait_for_window('Preference')
         keys('Right', 'Return')
-        wait_until_gone('Preference')
         wait_for_window('Display Settings')
         self.assertEqual((HOME / 'ui.ini').read_text(), '[Preference]\nAutoStartApp=1\n')
         keys('Escape')

@@ -12,8 +12,6 @@
 #include "tests/support/modal.h"
 #include "tests/support/setclock.h"
 
-#include <QtWidgets>
-
 #include <memory>
 
 using box::calls;
@@ -22,10 +20,9 @@ using box::write;
 
 namespace {
 
-using Actions = std::vector<ModalAnswers::Action>;
+using Action = ModalAnswers::Action;
+using Actions = std::vector<Action>;
 using Button = QDialogButtonBox::StandardButton;
-constexpr Button OK = QDialogButtonBox::Ok;
-constexpr Button CANCEL = QDialogButtonBox::Cancel;
 const QByteArray NO_FILE;
 
 QString operator""_s(const char *text, std::size_t size)
@@ -33,11 +30,12 @@ QString operator""_s(const char *text, std::size_t size)
     return QString::fromUtf8(text, int(size));
 }
 
-const QString BARCODE = "/etc/orvex/barcode.txt"_s;
+const QString CLOCK_SCRIPT = "/tmp/calclock.sh"_s;
+const QString BOOT_SCRIPT = "/tmp/autobootapp.sh"_s;
 const QString NOTHING;
 
-// What a dialog says: the kind of a message, the title, and the text of each visible part, that of
-// a chosen radio button with a mark.
+// What a dialog says: the kind of a message, the title, and the text of each visible part, with a
+// mark for a chosen radio button and for the button that Enter presses.
 QString shown(QWidget *dialog)
 {
     const char *const kinds[] = {"", "information", "warning", "critical", "question"};
@@ -45,21 +43,19 @@ QString shown(QWidget *dialog)
     if (const auto *box = qobject_cast<QMessageBox *>(dialog))
         result.prepend(QLatin1String(kinds[box->icon()]));
     for (const auto *part : dialog->findChildren<QWidget *>()) {
-        QString text = part->property(part->inherits("QGroupBox") ? "title" : "text").toString();
-        if (const auto *list = qobject_cast<const QComboBox *>(part)) {
-            text = (list->isEditable() ? "?"_s : ""_s) + QString::number(list->currentIndex());
-            for (int i = 0; i < list->count(); ++i)
-                text += u' ' + list->itemText(i);
-        }
+        QString text;
+        for (const char *name : {"title", "text", "currentText"})
+            text += part->property(name).toString();
+        const bool isMarked =
+            part->property("checked").toBool() || part->property("default").toBool();
         if (!text.isEmpty() && part->isVisible() && !part->parent()->inherits("QAbstractSpinBox"))
-            result << (part->property("checked").toBool() ? u'*' + text : text);
+            result << (isMarked ? u'*' + text : text);
     }
     return result.join(u'|');
 }
 
-ModalAnswers::Action answer(
-    const QString &says, Button button,
-    const std::function<void(QWidget *)> &look = [](QWidget *) {})
+Action answer(
+    const QString &says, Button button, const Action &look = [](QWidget *) {})
 {
     return [=](QWidget *dialog) {
         QCOMPARE(shown(dialog), says);
@@ -69,25 +65,31 @@ ModalAnswers::Action answer(
 }
 
 // Takes an application from a list; an empty name cancels.
-ModalAnswers::Action choice(const QString &title, const QString &application,
-                            const QString &offered = "vexastd vxotp"_s)
+Action choice(const QString &title, const QString &application)
 {
-    return answer("%1|Please select application|0 %2|OK|Cancel"_s.arg(title, offered),
-                  application.isEmpty() ? CANCEL : OK, [application](QWidget *dialog) {
-                      dialog->findChild<QComboBox *>()->setCurrentText(application);
-                  });
+    const auto choose = [=](QWidget *dialog) {
+        dialog->findChild<QComboBox *>()->setCurrentText(application);
+    };
+    return answer(title + "|Please select application|vexastd|*OK|Cancel"_s,
+                  application.isEmpty() ? Button::Cancel : Button::Ok, choose);
 }
 
-// Puts something in the way: a directory where a script is copied to, a program that fails, or a
-// file where a link was.
-void block(const QString &path)
+// Leaves an old copy of each script, and puts something in the way: a directory where a script is
+// copied to, a program that fails, or a file where a link was.
+void prepare(const QString &obstacle)
 {
-    if (path.endsWith(".sh"_s))
-        QVERIFY(QFile::remove(path) && QDir().mkpath(path + "/x"_s));
-    else if (QFileInfo(path).isSymLink())
-        QVERIFY(QFile::remove(path));
-    if (!path.isEmpty() && !QFileInfo(path).isDir())
-        write(path, "#!/bin/sh\nexit 1\n");
+    for (const QString &script : {CLOCK_SCRIPT, BOOT_SCRIPT}) {
+        QDir(script).removeRecursively();
+        QFile::remove(script); // of the last run, and not to be written to
+        if (script == obstacle)
+            QVERIFY(QDir().mkpath(script + "/x"_s));
+        else
+            write(script, "stale");
+    }
+    if (QFileInfo(obstacle).isSymLink())
+        QVERIFY(QFile::remove(obstacle));
+    if (!obstacle.isEmpty() && !QFileInfo(obstacle).isDir())
+        write(obstacle, "#!/bin/sh\nexit 1\n");
 }
 
 } // namespace
@@ -98,23 +100,24 @@ class TestMaintenanceDialogs : public QObject
 
     std::unique_ptr<DialogMain> m_window;
 
-    // Presses a function key, double-clicks on the clock, or chooses an entry of the menu. Gives
-    // the log: line, function and text of the window's messages, then the others'.
-    QString open(const QString &what, const Actions &actions)
+    // Double-clicks on the clock, presses a function key, or chooses an entry of the menu; what is
+    // told at the end is confirmed. Gives the log: line, function and text of the window's
+    // messages, then the others'.
+    QString open(const QString &what, Actions actions, const QString &told = NOTHING)
     {
+        if (!told.isEmpty())
+            actions.push_back(answer(told, Button::Ok));
         box::forgetCalls();
         const ModalAnswers answers(actions, 5000);
         const LogCapture log;
-        const int key = Qt::Key_F1 + what.mid(1).toInt() - 1;
-        QAction *entry = nullptr;
-        for (QAction *action : m_window->findChildren<QAction *>())
-            entry = action->isVisible() && action->text() == what ? action : entry;
-        if (entry)
-            entry->trigger();
-        else if (what == "clock"_s)
+        for (QAction *entry : m_window->findChildren<QAction *>()) {
+            if (entry->isVisible() && entry->text() == what)
+                entry->trigger();
+        }
+        if (what == "clock"_s)
             QTest::mouseDClick(m_window->findChild<QLabel *>("m_lblDateTime"_s), Qt::LeftButton);
-        else
-            QTest::keyClick(m_window.get(), Qt::Key(key));
+        else if (const int number = what.mid(1).toInt())
+            QTest::keyClick(m_window.get(), Qt::Key(Qt::Key_F1 + number - 1));
         QStringList logged;
         for (const LogCapture::Message &message : log.messages()) {
             if (message.file == "dialogmain"_s)
@@ -129,124 +132,109 @@ private slots:
     {
         if (!QFile::exists("/run/simbox/hdmi"_s))
             QFAIL("not in the simulated box");
+        write("/etc/orvex/barcode.txt"_s, "O\nB\n527AB001");
         m_window = std::make_unique<DialogMain>();
     }
 
-    void scripts()
-    {
-        const auto sha1 = [](const QString &name) {
-            return QCryptographicHash::hash(read(name), QCryptographicHash::Sha1).toHex();
-        };
-        QCOMPARE(sha1("://calclock.sh"_s), QByteArray("bb5ff0810ac0bde7d464f8304816755f5fcf87a3"));
-        QCOMPARE(sha1("://autobootapp.sh"_s),
-                 QByteArray("1bf6ba42aff078ab6ae27aa7ddbe3523b5428628"));
-    }
-
-    void font()
+    void fontAndScripts()
     {
         installApplicationFont("/usr/share/fonts/ttf/msyh.ttf"_s, 9);
         installApplicationFont("/nowhere"_s, 10);
         QCOMPARE(QApplication::font(), QFont("WenQuanYi Micro Hei"_s, 9));
+        const QByteArray both = read("://calclock.sh"_s) + read("://autobootapp.sh"_s);
+        QCOMPARE(QCryptographicHash::hash(both, QCryptographicHash::Sha1).toHex(),
+                 QByteArray("a689a66b5dee148d7d5bd486829ff790f9e7ac86"));
     }
 
     void about()
     {
-        const QByteArray barcodeBefore = read(BARCODE);
         setClock(QDateTime(QDate(2030, 5, 4), QTime(3, 2, 1)));
-        const auto shows = [&](const QByteArray &barcode, const QByteArray &own,
-                               const QByteArray &system, const QByteArray &patches,
-                               const QString &labels) {
-            write(BARCODE, barcode);
-            write("/etc/orvex/version"_s, own);
-            write("/etc/version"_s, system);
-            write("/etc/orvex/patches_version.txt"_s, patches);
-            GlobalVars::Init();
-            QCOMPARE(ProductFlags, barcode.contains("694") ? 207U : 0U);
-            const QString says =
-                "About...|%1|All rights reserved.|Copyright (C) 2013-2030 Orvex|%2|OK"_s;
-            open("F1"_s, {answer(says.arg(GetAppVersion(), labels), OK, [](QWidget *dialog) {
-                     const auto *logo = dialog->findChild<QLabel *>("lblLogo"_s);
-                     QVERIFY(!logo->property("pixmap").value<QPixmap>().isNull());
-                     QVERIFY(dialog->findChild<QLabel *>("lblVersion"_s)->font().bold());
-                 })});
+        const auto look = [](QWidget *dialog) {
+            const auto *logo = dialog->findChild<QLabel *>("lblLogo"_s);
+            QVERIFY(!logo->property("pixmap").value<QPixmap>().isNull());
+            QVERIFY(dialog->findChild<QLabel *>("lblVersion"_s)->font().bold());
         };
-        shows("O\r\n\r\nB\r\n694KH214\r\n", "\n 2.0.1 \n3.0\n", "1.9", "p1\n p2 \n\n",
-              "Barcode: 694KH214|Rootfs Version: 2.0.1|Rootfs Patch: p2"_s);
-        shows(NO_FILE, NO_FILE, "1.9\n", NO_FILE, "Barcode: |Rootfs Version: 1.9"_s);
-        shows("O\nB\n527AB0x1\n", "\n\n", "1.9", "p1\n  ", "Barcode: 527AB0x1|Rootfs Patch: "_s);
-        shows("O\n \nB\n573KH214\n", NO_FILE, NO_FILE, "", "Barcode: "_s);
-        write(BARCODE, barcodeBefore);
+        const QString files[] = {"barcode.txt"_s, "version"_s, "../version"_s,
+                                 "patches_version.txt"_s};
+        const QByteArray rows[][5] = {
+            {"O\r\n\r\nB\r\n694KH214\r\n", "\n 2.0.1 \n3.0\n", "1.9", "p1\n p2 \n\n",
+             "Barcode: 694KH214|Rootfs Version: 2.0.1|Rootfs Patch: p2"},
+            {NO_FILE, NO_FILE, "1.9\n", NO_FILE, "Barcode: |Rootfs Version: 1.9"},
+            {"O\nB\n527AB0x1\n", "\n\n", "1.9", "p1\n  ", "Barcode: 527AB0x1|Rootfs Patch: "},
+            {"O\n \nB\n573KH214\n", NO_FILE, NO_FILE, "", "Barcode: "},
+        };
+        for (const auto &row : rows) {
+            for (int i = 0; i < 4; ++i)
+                write("/etc/orvex/"_s + files[i], row[i]);
+            GlobalVars::Init();
+            QCOMPARE(ProductFlags, row[0].contains("694") ? 207U : 0U);
+            const QString says =
+                "About...|%1|All rights reserved.|Copyright (C) 2013-2030 Orvex|%2|*OK"_s;
+            open("F1"_s, {answer(says.arg(GetAppVersion(), QString::fromLatin1(row[4])), Button::Ok,
+                                 look)});
+        }
     }
 
     void clock()
     {
-        const QString script = "/tmp/calclock.sh"_s;
         const QString hardwareClock = "/usr/local/bin/hwclock"_s;
-        const QByteArray standIn = read(hardwareClock);
-        const auto sets = [&](Button button, const QString &obstacle, const QString &called,
-                              const QString &logged) {
-            write(script, "stale");
-            block(obstacle);
-            setClock(QDateTime(QDate(2019, 3, 5), QTime(7, 8, 9)));
-            const QString says = "Setting Date Time|2019-03-05 7:08:09|OK|Cancel"_s;
-            const bool isEdited = obstacle == hardwareClock;
-            Actions actions{answer(says, button, [isEdited](QWidget *dialog) {
-                auto *editor = dialog->findChild<QDateTimeEdit *>();
-                QVERIFY(editor->calendarPopup() && editor->alignment() == Qt::AlignCenter);
-                setClock(editor->dateTime().addSecs(5));
-                if (isEdited)
-                    editor->setDateTime(editor->dateTime().addYears(1).addSecs(-7 * 3600));
-            })};
-            if (isEdited)
-                actions.push_back(answer("critical|Error|Setting date time failed.|OK"_s, OK));
-            QCOMPARE(open("clock"_s, actions).section(u' ', 1), logged);
-            QCOMPARE(calls(), called);
-            QCOMPARE(QFile::exists(script), button == CANCEL || obstacle == script);
-            QDir(script).removeRecursively();
-            write(hardwareClock, standIn);
+        const auto edit = [](QWidget *dialog) {
+            auto *editor = dialog->findChild<QDateTimeEdit *>();
+            QVERIFY(editor->calendarPopup() && editor->alignment() == Qt::AlignCenter);
+            setClock(editor->dateTime().addSecs(5));
+            editor->setDateTime(editor->dateTime().addYears(1).addSecs(-7 * 3600));
         };
-        sets(OK, NOTHING, "date -s 2019-03-05 07:08:09\nhwclock -w\n"_s, NOTHING);
-        sets(CANCEL, NOTHING, NOTHING, NOTHING);
-        sets(OK, hardwareClock, "date -s 2020-03-05 00:08:09\n"_s, NOTHING);
-        sets(OK, script, NOTHING,
+        const auto sets = [&](Button button, const QString &obstacle, const QString &called,
+                              const QString &told, const QString &logged) {
+            prepare(obstacle);
+            setClock(QDateTime(QDate(2019, 3, 5), QTime(7, 8, 9)));
+            const Action act =
+                answer("Setting Date Time|2019-03-05 7:08:09|*OK|Cancel"_s, button, edit);
+            QCOMPARE(open("clock"_s, {act}, told).section(u' ', 1), logged);
+            QCOMPARE(calls(), called);
+            QCOMPARE(QFile::exists(CLOCK_SCRIPT),
+                     button == Button::Cancel || obstacle == CLOCK_SCRIPT);
+        };
+        const QString date = "date -s 2020-03-05 00:08:09\n"_s;
+        sets(Button::Ok, NOTHING, date + "hwclock -w\n"_s, NOTHING, NOTHING);
+        sets(Button::Cancel, NOTHING, NOTHING, NOTHING, NOTHING);
+        sets(Button::Ok, CLOCK_SCRIPT, NOTHING, NOTHING,
              "void DialogMain::lblDateTime_mouseDoubleClicked() Copying calclock.sh failed."_s);
+        sets(Button::Ok, hardwareClock, date, "critical|Error|Setting date time failed.|*OK"_s,
+             NOTHING);
     }
 
     void fan()
     {
         const QString conf = "/etc/fand.conf"_s;
-        const auto changes = [&](const QByteArray &before, const QString &shows,
-                                 const QString &entered, const QByteArray &after) {
+        const auto changes = [&](const QByteArray &before, int lower, int upper,
+                                 const QString &typed, const QByteArray &after) {
             write(conf, before);
-            const bool isCancelled = before == after;
-            const QString says = "Parameter Input Dialog|Temperature Lower Threshold:|%1|"
-                                 "Temperature Upper Threshold:|%2|OK|Cancel"_s;
             const auto enter = [=](QWidget *dialog) {
-                QTest::keyClicks(dialog->focusWidget(), entered.section(u' ', 0, 0));
-                QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
-                QTest::keyClicks(dialog->focusWidget(), entered.section(u' ', 1));
+                for (const QChar key : typed)
+                    QTest::keyClicks(dialog->focusWidget(), key);
                 if (after.isNull())
                     write(conf, NO_FILE);
             };
-            Actions actions{answer(says.arg(shows.section(u' ', 0, 0), shows.section(u' ', 1)),
-                                   isCancelled ? CANCEL : OK, enter)};
-            if (!isCancelled)
-                actions.push_back(answer("information|Information|Parameters have been changed, "
-                                         "reboot to take effect.|OK"_s,
-                                         OK));
-            open("Fan Setting"_s, actions);
+            const QString says = "Parameter Input Dialog|Temperature Lower Threshold:|%1|"
+                                 "Temperature Upper Threshold:|%2|*OK|Cancel"_s;
+            const QString told = "information|Information|Parameters have been changed, "
+                                 "reboot to take effect.|*OK"_s;
+            const bool isKept = before == after;
+            const auto button = isKept ? Button::Cancel : Button::Ok;
+            open("Fan Setting"_s, {answer(says.arg(lower).arg(upper), button, enter)},
+                 isKept ? NOTHING : told);
             QCOMPARE(read(conf), after);
         };
         const QByteArray lower = "temp_threshold_lower=";
         const QByteArray upper = "temp_threshold_upper=";
-        changes(lower + "60\n" + upper + "75\n", "60 75"_s, NOTHING, lower + "60\n" + upper + "75");
-        changes("# Degrees\ntemp_threshold_lower = 95\n\nother=1\n", "90 1"_s, "80 70"_s,
+        changes("# Degrees\ntemp_threshold_lower = 95\n\nother=1\n", 90, 1, "80\t70"_s,
                 "# Degrees\n" + lower + "80\n\nother=1\n" + upper + "70");
-        changes(upper + "4294967295\n" + lower + "0x3c", "1 100"_s, NOTHING,
+        changes(upper + "4294967295\n" + lower + "0x3c", 1, 100, NOTHING,
                 upper + "100\n" + lower + "1");
-        changes(lower + "7 \n\n", "7 1"_s, "9 9"_s, lower + "7 \n\n");
+        changes(lower + "7 \n\n", 7, 1, "9\t9"_s, lower + "7 \n\n");
         // Told although it cannot be saved any more; then there is nothing to show.
-        changes(lower + "5", "5 1"_s, NOTHING, NO_FILE);
+        changes(lower + "5", 5, 1, NOTHING, NO_FILE);
         open("Fan Setting"_s, {});
     }
 
@@ -254,49 +242,43 @@ private slots:
     {
         const QDir autostart("/etc/xdg/autostart"_s);
         const QStringList both{"vexastd.desktop"_s, "vxotp.desktop"_s};
-        const QString script = "/tmp/autobootapp.sh"_s;
-        const QString clockScript = "/tmp/calclock.sh"_s;
-        // Finds one application chosen and chooses the other.
-        const auto changes = [&](const QByteArray &before, bool isOtp, Button button,
-                                 const QString &obstacle, const QStringList &links,
-                                 const QByteArray &after) {
+        const QByteArray set = "[Preference]\nAutoStartApp=";
+        // Finds the application of that number chosen, and chooses the other.
+        const auto changes = [&](const QByteArray &before, int chosen, Button button,
+                                 const QString &obstacle) {
             for (const QString &name : both) {
                 QFile::remove(autostart.filePath(name));
                 QFile::link("/usr/share/applications/"_s + name, autostart.filePath(name));
             }
-            QFile::remove(script); // of the last run, and not to be written to
-            for (const QString &stale : {script, clockScript})
-                write(stale, "stale");
-            block(obstacle);
+            prepare(obstacle);
             const QTemporaryDir directory; // the toolkit knows the settings of the last one
             GlobalVars::APP_PATH = directory.path() + u'/';
             const QString ini = directory.filePath("ui.ini"_s);
             write(ini, before);
-            const bool isRun = button == OK && obstacle != script;
-            const QString says = isOtp ? "vexastd|*vxotp"_s : "*vexastd|vxotp"_s;
-            const auto click = [isOtp](QWidget *dialog) {
-                dialog->findChildren<QRadioButton *>()[isOtp ? 0 : 1]->click();
+            const bool isRun = button == Button::Ok && obstacle != BOOT_SCRIPT;
+            const bool isDone = isRun && obstacle.isEmpty();
+            const int other = 1 - chosen;
+            const auto click = [=](QWidget *dialog) {
+                dialog->findChildren<QRadioButton *>()[other]->click();
             };
-            Actions actions{answer("Preference|Auto Start Application|%1|OK|Cancel"_s.arg(says),
-                                   button, click)};
-            if (isRun && !obstacle.isEmpty())
-                actions.push_back(
-                    answer("critical|Error|Setting auto boot application failed.|OK"_s, OK));
-            QCOMPARE(open("Preference"_s, actions),
-                     obstacle == script ? "C Copying autobootapp.sh failed."_s : NOTHING);
-            QCOMPARE(autostart.entryList(QDir::Files | QDir::System, QDir::Name), links);
-            QCOMPARE(read(ini), after);
-            QCOMPARE(QFile::exists(clockScript), !isRun);
-            QCOMPARE(read(script).startsWith("#!/bin/sh"), isRun);
-            QDir(script).removeRecursively();
+            const QString says = "Preference|Auto Start Application|%1|*OK|Cancel"_s.arg(
+                chosen ? "vexastd|*vxotp"_s : "*vexastd|vxotp"_s);
+            const QString told = "critical|Error|Setting auto boot application failed.|*OK"_s;
+            QCOMPARE(open("Preference"_s, {answer(says, button, click)},
+                          isRun && !isDone ? told : NOTHING),
+                     obstacle == BOOT_SCRIPT ? "C Copying autobootapp.sh failed."_s : NOTHING);
+            QCOMPARE(autostart.entryList(QDir::Files | QDir::System, QDir::Name),
+                     isDone ? QStringList(both[other]) : both);
+            QCOMPARE(read(ini), isDone ? set + QByteArray::number(other) + '\n' : before);
+            QCOMPARE(QFile::exists(CLOCK_SCRIPT), !isRun);
+            QCOMPARE(read(BOOT_SCRIPT).startsWith("#!/bin/sh"), isRun);
         };
-        const QByteArray set = "[Preference]\nAutoStartApp=";
-        changes(NO_FILE, false, OK, NOTHING, {both[1]}, set + "1\n");
-        changes(set + "2\n", true, OK, NOTHING, {both[0]}, set + "0\n");
-        changes(set + "vxotp\n", false, CANCEL, NOTHING, both, set + "vxotp\n");
-        changes("AutoStartApp=1\n", false, CANCEL, NOTHING, both, "AutoStartApp=1\n");
-        changes(set + "1\n", true, OK, autostart.filePath(both[0]), both, set + "1\n");
-        changes(set + "1\n", true, OK, script, both, set + "1\n");
+        changes(NO_FILE, 0, Button::Ok, NOTHING);
+        changes(set + "2\n", 1, Button::Ok, NOTHING);
+        changes(set + "vxotp\n", 0, Button::Cancel, NOTHING);
+        changes("AutoStartApp=1\n", 0, Button::Cancel, NOTHING);
+        changes(set + "1\n", 1, Button::Ok, autostart.filePath(both[0]));
+        changes(set + "1\n", 1, Button::Ok, BOOT_SCRIPT);
     }
 
     void gamma()
@@ -304,29 +286,28 @@ private slots:
         const QString driver = qEnvironmentVariable("UMOCKDEV_DIR") + "/ioctl/dev/fb0"_s;
         const QString key = "%1 virtual void DialogMain::keyPressEvent(QKeyEvent*) %2"_s;
         const auto enter = [&](const QString &proposal, const QString &typed, Button button,
-                               const Actions &then = {}) {
-            const auto type = [typed](QWidget *dialog) {
+                               const QString &told = NOTHING) {
+            const auto type = [=](QWidget *dialog) {
                 QTest::keyClicks(dialog->focusWidget(), typed);
             };
-            Actions actions{answer("Dialog|Gamma:|%1|OK|Cancel"_s.arg(proposal), button, type)};
-            actions.insert(actions.end(), then.begin(), then.end());
-            return open("F10"_s, actions);
+            const QString says = "Dialog|Gamma:|%1|*OK|Cancel"_s.arg(proposal);
+            return open("F10"_s, {answer(says, button, type)}, told);
         };
         const auto tables = [](float gamma) {
             const GammaCurve curve = gammaCurve(gamma);
             QString numbers = "gamma 1"_s;
-            for (const auto &table : {curve.constk, curve.slopek}) {
-                for (int i = 0; i < GAMMA_SEGMENTS; ++i)
-                    numbers += u' ' + QString::number(table[i]);
-            }
+            for (const std::int32_t number : curve.constk)
+                numbers += u' ' + QString::number(number);
+            for (const std::int32_t number : curve.slopek)
+                numbers += u' ' + QString::number(number);
             return numbers + u'\n';
         };
-        QCOMPARE(enter("1.0"_s, "2.25"_s, OK), key.arg(106).arg("2.25"_s));
+        QCOMPARE(enter("1.0"_s, "2.25"_s, Button::Ok), key.arg(106).arg("2.25"_s));
         QCOMPARE(calls(), tables(2.25F));
-        QCOMPARE(enter("2.3"_s, "3"_s, CANCEL), NOTHING);
+        QCOMPARE(enter("2.3"_s, "3"_s, Button::Cancel), NOTHING);
         QCOMPARE(calls(), NOTHING);
         QVERIFY(QFile::rename(driver, driver + u'~'));
-        QCOMPARE(enter("2.3"_s, "-1.5"_s, OK),
+        QCOMPARE(enter("2.3"_s, "-1.5"_s, Button::Ok),
                  key.arg(106).arg("-1.5|"_s) + key.arg(111).arg("Setting gamma failed."_s) +
                      "|C Ioctl MXCFB_SET_GAMMA fail! Inappropriate ioctl for device"_s);
         QVERIFY(QFile::rename(driver + u'~', driver));
@@ -334,12 +315,12 @@ private slots:
         // What is no number closes the dialog as accepted, with 0.
         QString proposal = "-1.5"_s;
         for (const QString &word : {"abc"_s, "\b"_s, "2,2"_s, "1e39"_s}) {
-            QCOMPARE(enter(proposal, word, OK, {answer("critical||Error|OK"_s, OK)}),
+            QCOMPARE(enter(proposal, word, Button::Ok, "critical||Error|*OK"_s),
                      key.arg(106).arg(0));
             QCOMPARE(calls(), tables(0.0F));
             proposal = "0.0"_s;
         }
-        QCOMPARE(enter(proposal, "inf"_s, OK), key.arg(106).arg("inf"_s));
+        QCOMPARE(enter(proposal, "inf"_s, Button::Ok), key.arg(106).arg("inf"_s));
 
         const LogCapture log;
         QVERIFY(FbDevice::Instance()->OpenDevice(FbDevice::DEV_NAME));
@@ -352,38 +333,27 @@ private slots:
 
     void upgrades()
     {
-        const auto starts = [&](const QString &what, const Actions &actions, const QString &logged,
-                                const QString &called) {
-            QCOMPARE(open(what, actions), logged);
-            QTRY_COMPARE(calls(), "upgrader %1\n"_s.arg(called));
-        };
         // An upgrader that takes its time is not waited for.
         const QString upgrader = "/usr/local/bin/upgrader"_s;
-        const QByteArray standIn = read(upgrader);
-        write(upgrader, standIn + "for i in 1 2 3 4 5; do [ -e /tmp/go ] || sleep 1; done\n"
-                                  "touch /tmp/gone\n");
-        starts("Upgrade File System"_s, {},
-               "579 void DialogMain::startUpgraderFs() Starting upgrader file system..."_s,
-               "fs fs_patches tore7malvin2ek+"_s);
-        QVERIFY(!QFile::exists("/tmp/gone"_s));
-        write("/tmp/go"_s, "");
-        write(upgrader, standIn);
-        starts("F12"_s, {}, "555 void DialogMain::startUpgraderSelf() Starting upgrader self..."_s,
-               "app moniconf moniconf"_s);
-        const QString title = "Upgrade Application"_s;
-        const QString logged =
-            "%1 void DialogMain::startUpgraderApp(bool) Starting upgrader %2..."_s;
-        starts(title, {choice(title, "vexastd"_s)}, logged.arg(567).arg("vexastd"_s),
-               "vexa_standard /home/root vexastd"_s);
-        starts(title, {choice(title, "vxotp"_s)}, logged.arg(571).arg("vxotp"_s),
-               "vexa_otp /home/root vxotp"_s);
-        QCOMPARE(open(title, {choice(title, NOTHING)}), NOTHING);
-
-        const QByteArray barcodeBefore = read(BARCODE);
-        write(BARCODE, "O\nB\n681AB001");
-        m_window = std::make_unique<DialogMain>();
-        write(BARCODE, barcodeBefore);
-        open(title, {choice(title, NOTHING, "vexastd"_s)});
+        write(upgrader, read(upgrader) + "sleep 5\ntouch /tmp/gone\n");
+        const QString app = "Upgrade Application"_s;
+        const QString rows[][4] = {
+            {"Upgrade File System"_s, "579 void DialogMain::startUpgraderFs()"_s, "file system"_s,
+             "fs fs_patches tore7malvin2ek+"_s},
+            {"F12"_s, "555 void DialogMain::startUpgraderSelf()"_s, "self"_s,
+             "app moniconf moniconf"_s},
+            {app, "567 void DialogMain::startUpgraderApp(bool)"_s, "vexastd"_s,
+             "vexa_standard /home/root vexastd"_s},
+            {app, "571 void DialogMain::startUpgraderApp(bool)"_s, "vxotp"_s,
+             "vexa_otp /home/root vxotp"_s},
+        };
+        for (const auto &[what, function, name, called] : rows) {
+            const Actions actions(what == app ? 1 : 0, choice(app, name));
+            QCOMPARE(open(what, actions), "%1 Starting upgrader %2..."_s.arg(function, name));
+            QVERIFY(!QFile::exists("/tmp/gone"_s));
+            QTRY_COMPARE(calls(), "upgrader %1\n"_s.arg(called));
+        }
+        QCOMPARE(open(app, {choice(app, NOTHING)}), NOTHING);
         write(upgrader, NO_FILE); // which nobody is told
         open("F12"_s, {});
     }
@@ -395,30 +365,22 @@ private slots:
         const QStringList standard{"vexa_standard/filemanager.ini"_s,
                                    "vexa_standard/usersensor.ini"_s, "vexa_standard/vexaapp.ini"_s};
         const QStringList others{"vexa_otp/x.ini"_s, "vexa_standard/x.ini"_s};
-        const QStringList all = otp + standard + others;
-        const auto leaves = [&](const QString &missing, QMessageBox::StandardButton pressed,
-                                const Actions &then, const QStringList &left) {
-            for (const QString &file : all)
+        const auto removes = [&](const QStringList &removed, Button button, Actions then,
+                                 const QString &missing = NOTHING) {
+            for (const QString &file : otp + standard + others)
                 write(home.filePath(file), file == missing ? NO_FILE : "x");
-            Actions actions{[pressed](QWidget *dialog) {
-                QCOMPARE(shown(dialog), "question|Query|Are sure to factory reset?|&Yes|&No"_s);
-                auto *box = qobject_cast<QMessageBox *>(dialog);
-                QCOMPARE(box->standardButton(box->defaultButton()), QMessageBox::No);
-                box->button(pressed)->click();
-            }};
-            actions.insert(actions.end(), then.begin(), then.end());
-            open("Factory Reset"_s, actions);
-            QStringList found;
-            std::copy_if(all.begin(), all.end(), std::back_inserter(found),
-                         [&home](const QString &file) { return home.exists(file); });
-            QCOMPARE(found, left);
+            const QString says = "question|Query|Are sure to factory reset?|&Yes|*&No"_s;
+            then.insert(then.begin(), answer(says, button));
+            open("Factory Reset"_s, then);
+            for (const QString &file : otp + standard + others)
+                QVERIFY2(home.exists(file) != removed.contains(file), qPrintable(file));
         };
         const QString title = "Factory Reset"_s;
-        leaves(NOTHING, QMessageBox::No, {}, all);
-        leaves(NOTHING, QMessageBox::Yes, {choice(title, NOTHING)}, all);
-        leaves(NOTHING, QMessageBox::Yes, {choice(title, "vexastd"_s)}, otp + others);
-        leaves(standard.last(), QMessageBox::Yes, {choice(title, "vexastd"_s)}, otp + others);
-        leaves(NOTHING, QMessageBox::Yes, {choice(title, "vxotp"_s)}, standard + others);
+        removes({}, Button::No, {});
+        removes({}, Button::Yes, {choice(title, NOTHING)});
+        removes(standard, Button::Yes, {choice(title, "vexastd"_s)});
+        removes(standard, Button::Yes, {choice(title, "vexastd"_s)}, standard.last());
+        removes(otp, Button::Yes, {choice(title, "vxotp"_s)});
     }
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// For tests that run inside the simulated box: its files, and what its stand-ins record.
+// Files, and what the stand-ins of the simulated box record.
 #pragma once
 
 #include <QFile>
@@ -11,12 +11,10 @@ namespace box {
 inline void write(const QString &fileName, const QByteArray &content)
 {
     QFile file(fileName);
-    if (content.isNull()) {
+    if (content.isNull())
         file.remove();
-        return;
-    }
-    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(fileName));
-    file.write(content);
+    else
+        QVERIFY2(file.open(QIODevice::WriteOnly) && file.write(content) >= 0, qPrintable(fileName));
 }
 
 // Null if there is no such file.
@@ -30,12 +28,9 @@ inline QByteArray read(const QString &fileName)
 // the lines is recorded when its turn comes.
 inline QString calls()
 {
-    QString result;
-    for (const QByteArray &line : read(QStringLiteral("/run/simbox/calls")).split('\n')) {
-        if (!line.isEmpty() && !line.startsWith("i2c ") && !line.startsWith("vga "))
-            result += QString::fromUtf8(line) + u'\n';
-    }
-    return result;
+    static const QRegularExpression fetching(QStringLiteral("^(i2c |vga ).*\n"),
+                                             QRegularExpression::MultilineOption);
+    return QString::fromUtf8(read(QStringLiteral("/run/simbox/calls"))).remove(fetching);
 }
 
 inline void forgetCalls()

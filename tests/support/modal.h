@@ -3,14 +3,8 @@
 // hanging when a dialog does not come, does not close, or was not expected.
 #pragma once
 
-#include <QApplication>
-#include <QDialogButtonBox>
-#include <QElapsedTimer>
-#include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <functional>
 #include <utility>
@@ -30,29 +24,25 @@ public:
         , m_timeoutMs(timeoutMs)
     {
         m_sinceLast.start();
-        connect(&m_poll, &QTimer::timeout, this, &ModalAnswers::look);
-        m_poll.start(5);
+        startTimer(5);
     }
 
     ~ModalAnswers() override
     {
-        if (m_used < m_actions.size() && !QTest::currentTestFailed())
-            fail("a modal dialog did not appear");
+        QVERIFY2(m_used == m_actions.size() || QTest::currentTestFailed(),
+                 "a modal dialog did not appear");
     }
 
 private:
-    static void fail(const char *why) { QTest::qFail(why, __FILE__, __LINE__); }
-
-    void look()
+    void timerEvent(QTimerEvent * /*event*/) override
     {
         QWidget *const dialog = QApplication::activeModalWidget();
         if (std::exchange(m_current, dialog) != dialog)
             m_sinceLast.restart();
         if (!dialog)
             return;
-        if (m_used < m_actions.size() && !m_seen.contains(dialog)) {
-            m_seen.append(dialog);
-            m_sinceLast.restart();
+        if (m_used < m_actions.size() && !dialog->property("seen").toBool()) {
+            dialog->setProperty("seen", true);
             // Queued: a timer does not fire again while its own slot runs, but the action may open
             // another dialog.
             QTimer::singleShot(0, dialog, [this, dialog, action = m_actions[m_used++]] {
@@ -63,21 +53,17 @@ private:
                     dialog->close();
             });
         } else if (m_sinceLast.hasExpired(m_timeoutMs)) {
-            const auto *box = qobject_cast<QMessageBox *>(dialog);
-            const QString what =
-                dialog->windowTitle() + QStringLiteral(": ") + (box ? box->text() : QString());
-            fail(qPrintable(QStringLiteral("nobody answers, or closes, ") + what));
             dialog->close();
+            const QString what = dialog->windowTitle() + u' ' + dialog->property("text").toString();
+            QVERIFY2(false, qPrintable(QStringLiteral("nobody answers, or closes, ") + what));
         }
     }
 
     const std::vector<Action> m_actions;
     const int m_timeoutMs;
     std::size_t m_used = 0;
-    QList<QPointer<QWidget>> m_seen;
     QWidget *m_current = nullptr;
     QElapsedTimer m_sinceLast;
-    QTimer m_poll;
 };
 
 // Presses a standard button of a dialog or message box; fails when it has none such.
@@ -85,8 +71,6 @@ inline void pressButton(QWidget *dialog, QDialogButtonBox::StandardButton which)
 {
     const auto *box = dialog->findChild<QDialogButtonBox *>();
     QPushButton *const button = box ? box->button(which) : nullptr;
-    if (button)
-        button->click();
-    else
-        QTest::qFail("no such button", __FILE__, __LINE__);
+    QVERIFY2(button, "no such button");
+    button->click();
 }
