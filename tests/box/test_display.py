@@ -117,16 +117,6 @@ class Display(unittest.TestCase):
                 self.assertEqual((stored_mode(), screen_size()), left)
             self.setUp()
 
-    def test_child_processes_are_spared_the_toolkit_setting(self):
-        window = wait_for_window('Display Settings')
-        with self.stand_in('xrandr', 'env >/tmp/environment'):
-            click_row(window, 0)
-            click(window, *APPLY)
-            wait_for_window('Information')
-        self.assertNotIn('QT_XCB', Path('/tmp/environment').read_text())
-        maps = Path(f'/proc/{self.tool.process.pid}/maps').read_text()
-        self.assertNotIn('glx-integration', maps)
-
 
 if __name__ == '__main__':
     driver.main()
