@@ -199,7 +199,7 @@ def dialogs(way):
     way.windows.pop(-2)
     way.close('Return')
     way.menu('reset-question', 'Factory Reset')
-    way.replace('reset-application', 'alt+y')
+    way.replace('reset-application', 'Left', 'Return')     # Yes, in every language
     way.close('Escape')
     way.menu('fan', 'Fan Setting')
     way.replace('fan-information', 'Return')

@@ -38,6 +38,8 @@ def messages(root):
 
 def check(catalogue, updated):
     root = ET.parse(updated).getroot()
+    if catalogue.stem != f'moniconf_{root.get("language")}':
+        yield f'is in the language {root.get("language")} by its first lines'
     if messages(root).keys() != messages(ET.parse(catalogue).getroot()).keys():
         yield 'texts or comments in the source have changed: build update-translations'
     for (context, source, _), message in messages(root).items():
