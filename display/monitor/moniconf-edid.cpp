@@ -24,8 +24,9 @@ Prints what a monitor says of itself in its EDID block.
 
   FILE              a file that begins with the 128 bytes of a block;
                     - is standard input
-  --bus /dev/i2c-N  the monitor on that I2C adapter. VGA lines must be led to
-                    it first: write 1 to /sys/class/leds/vga-i2c-enb/brightness
+  --bus /dev/i2c-N  the monitor on that I2C adapter. Switched lines must be led
+                    to it first: write 1 to the connector's switch, which is
+                    /sys/class/leds/vga-i2c-enb/brightness for VGA
   --modes           prints the modes that moniconf offers for the monitor
                     instead, and on standard error why it offers no more
   --help            prints this text
