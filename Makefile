@@ -94,7 +94,7 @@ check-armhf: $(SYSROOT)/complete
 	ctest --test-dir build/armhf --output-on-failure -j $(JOBS) -R ^unit
 	packaging/run-armhf $(SYSROOT) build/armhf/moniconf -v
 
-$(SYSROOT)/complete: packaging/make-sysroot | armhf-tools
+$(SYSROOT)/complete: packaging/make-sysroot packaging/extract-armhf | armhf-tools
 	packaging/make-sysroot $(SYSROOT)
 
 package-tools:
