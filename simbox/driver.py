@@ -2,9 +2,11 @@
 """What the box tests share: the tool under way, its windows, and the traces that it leaves.
 
 A test runs in the simulated box: simbox/simbox exec python3 tests/box/NAME.py
+On the emulated board the same tests run with more patience, except those that need other hardware.
 """
 
 import collections
+import os
 import re
 import shutil
 import subprocess
@@ -14,7 +16,8 @@ from pathlib import Path
 
 import tables
 
-PATIENCE = 20       # seconds, for what usually takes a fraction of one
+BOARD = 'BOARD' in os.environ
+PATIENCE = int(os.environ.get('PATIENCE', 20))      # seconds, for what takes a fraction of them
 PROGRAM = '/opt/moniconf/moniconf'
 RUN = Path('/run/simbox')
 # Pixels from the main window's top left corner, in the box's font at 96 dots an inch.
@@ -76,9 +79,10 @@ class Tool:
         self.stop()
 
 
-def find_windows(title):
+def find_windows(text, kind='--name'):
+    """The shown windows of that title, or of that '--class'."""
     while True:
-        found = subprocess.run(['xdotool', 'search', '--onlyvisible', '--name', f'^{title}$'],
+        found = subprocess.run(['xdotool', 'search', '--onlyvisible', kind, f'^{text}$'],
                                capture_output=True, text=True, check=False)
         if 'X Error' not in found.stderr:       # a window that went while it was looked at
             return found.stdout.split()
@@ -135,8 +139,7 @@ def click_row(window, row):
 def choose(window, entry, is_otp=True):
     """Chooses an entry of the main window's menu by its English text, on an OTP product or not."""
     click(window, *BLANK, button=3)
-    wait_for(lambda: len(output('xdotool', 'search', '--onlyvisible', '--class',
-                                'moniconf').split()) == 2, 'the menu')
+    wait_for(lambda: len(find_windows('moniconf', '--class')) == 2, 'the menu')
     entries = [text for text in tables.MENU if is_otp or text != 'Preference']
     keys(*['Down'] * (entries.index(entry) + 1), 'Return')
 
@@ -152,8 +155,9 @@ def stored_mode():
 
 
 def plug(bus, what):
-    """Exchanges the monitor on a connector, such as 'vga'."""
-    (RUN / bus).write_text(what, encoding='utf-8')
+    """Exchanges the monitor on a connector, such as 'vga'; a board keeps what it starts with."""
+    if not BOARD:
+        (RUN / bus).write_text(what, encoding='utf-8')
 
 
 def calls(first_words=''):
@@ -193,3 +197,7 @@ class Result(unittest.TextTestResult):
 def main(**words):
     """Runs the tests of the program that calls it."""
     unittest.main(**words, testRunner=unittest.TextTestRunner(verbosity=2, resultclass=Result))
+
+
+if __name__ == '__main__':
+    main(module=None)       # the tests that the command line names

@@ -13,15 +13,13 @@ import subprocess
 import sys
 import time
 
-import devices
-from devices import RUN
-from driver import output, picture
+from driver import BOARD, PATIENCE, RUN, output, picture
 from tables import MODES
 
-PATIENCE = 20       # seconds for a part of the box to come up
 SCREEN = ['Xvnc', ':0', '-displayfd', '1', '-depth', '24',
-          '-rfbport', '-1', '-rfbunixpath', f'{RUN}/rfb', '-SecurityTypes', 'None',
-          '-noreset', '-AlwaysShared', '-AcceptSetDesktopSize=0', '-desktop', 'simulated box']
+          '-rfbport', '5900' if BOARD else '-1', '-rfbunixpath', f'{RUN}/rfb',
+          '-SecurityTypes', 'None', '-noreset', '-AlwaysShared', '-AcceptSetDesktopSize=0',
+          '-desktop', 'simulated box']
 PATTERN = '%{time hh:mm:ss} %{type} %{file}:%{line} %{message}'
 TOOL = ['env', f'QT_MESSAGE_PATTERN={PATTERN}',
         'sh', '-c', '. /etc/profile && exec /opt/moniconf/moniconf']
@@ -76,14 +74,18 @@ def desktop(mode):
 
 def main():
     mode, session, *command = sys.argv[1:]
+    os.environ.update(HOME='/home/root', USER='root', DISPLAY=':0',
+                      XDG_RUNTIME_DIR='/run/user/0')
     try:
         desktop(mode)
-        testbed, environment = devices.serve(tuple(map(int, mode.split('x'))))
+        if not BOARD:       # which has devices of its own, and not the library behind these
+            import devices
+            testbed, environment = devices.serve(tuple(map(int, mode.split('x'))))
+            os.environ.update(environment)
     except RuntimeError as failure:
         print(f'simbox: {failure}', file=sys.stderr)
         return 2
     (RUN / 'calls').write_text('')      # from now on they are the tool's
-    os.environ.update(environment)
     (RUN / 'up').touch()
     while session == 'tool':
         with open(RUN / 'tool.log', 'ab') as log:

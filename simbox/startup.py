@@ -16,9 +16,10 @@ import subprocess
 import sys
 import time
 
+from driver import PATIENCE
+
 SIDE = 100          # pixels, of the square in the middle of the screen that is looked at
 SEVERAL = 8         # colours
-GIVE_UP = 20        # seconds
 
 
 class XImage(ctypes.Structure):
@@ -51,7 +52,7 @@ class Screen:
     def wait(self, wanted):
         start = time.monotonic()
         while not wanted(self.colours()):
-            if time.monotonic() - start > GIVE_UP:
+            if time.monotonic() - start > PATIENCE:
                 sys.exit('the screen does not change as expected')
             time.sleep(0.001)
 
@@ -72,7 +73,7 @@ def measure(screen, program):
     figures = [painted, *memory(process.pid)]
     # Ended as a user would: a killed program leaves the next one something to clear away.
     subprocess.run(['xdotool', 'key', 'Escape'], check=True)
-    process.wait(timeout=GIVE_UP)
+    process.wait(timeout=PATIENCE)
     screen.wait(lambda colours: colours < SEVERAL)
     time.sleep(0.2)
     return figures

@@ -22,7 +22,8 @@ class Display(unittest.TestCase):
         self.tool = driver.Tool()
         self.addCleanup(self.tool.stop)
 
-    def apply(self, row, times=1):
+    @staticmethod
+    def apply(row, times=1):
         window = wait_for_window('Display Settings')
         click_row(window, row)
         click(window, *APPLY, times=times, delay=120)
