@@ -10,7 +10,7 @@ SYSROOT := build/sysroot-armhf
 ARCHITECTURES = $(shell dpkg --print-architecture)
 
 .PHONY: run check check-all check-asan check-qt6 check-armhf check-package check-reproducible check-source \
-	screenshots lint packages build package package-tools armhf-tools
+	screenshots lint packages build package package-tools armhf-tools board check-board
 
 # The tool in the simulated box, in a browser page, on a screen small enough to be read there.
 run: build
@@ -20,8 +20,8 @@ run: build
 check: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
-# All that there is, for before a release; takes long, and downloads much.
-check-all: check lint check-asan check-qt6 check-armhf check-reproducible check-source
+# For before a release; takes long, and downloads much.
+check-all: check lint check-asan check-qt6 check-armhf check-reproducible check-source check-board
 
 # The tests, with AddressSanitizer and UBSan.
 check-asan: packages
@@ -88,11 +88,22 @@ check-source: package
 	packaging/build-in-chroot $(PACKAGES)
 
 # The unit tests and the program, built for the box and run by an emulator of its processor.
-check-armhf: $(SYSROOT)/complete
-	cmake --preset armhf -DMONICONF_WERROR=$(WERROR)
-	cmake --build --preset armhf -j $(JOBS)
+check-armhf: build/armhf/complete
 	ctest --test-dir build/armhf --output-on-failure -j $(JOBS) -R ^unit
 	packaging/run-armhf $(SYSROOT) build/armhf/moniconf -v
+
+# The package on an emulated board of the box's kind: its desktop in a browser page, or its tests.
+board check-board: build/armhf/complete
+	packaging/install-build-packages packaging/board-packages.txt
+	PATH="$$PATH:/usr/sbin:/sbin" $(MAKE) -f board/Makefile $@
+
+# The box's package, and the unit tests for its processor, made anew when a source has changed.
+build/armhf/complete: $(SYSROOT)/complete $(shell git ls-files '*.cpp' '*.h' '*.ui' '*.ts' '*CMakeLists.txt' \
+		CHANGELOG.md CMakePresets.json debian packaging resources 2>/dev/null)
+	SYSROOT=$(SYSROOT) packaging/build-package build/armhf/packages armhf
+	cmake --preset armhf -DMONICONF_WERROR=$(WERROR)
+	cmake --build --preset armhf -j $(JOBS)
+	touch $@
 
 $(SYSROOT)/complete: packaging/make-sysroot packaging/extract-armhf | armhf-tools
 	packaging/make-sysroot $(SYSROOT)
