@@ -28,7 +28,6 @@ void TestKeyRepeatGuard::repeats()
         {"presses a button by its letter", Qt::Key_Y, "y", false, Qt::AltModifier},
         {"types a capital", Qt::Key_E, "E", true, Qt::ShiftModifier},
         {"moves in the list", Qt::Key_Down, "", true},
-        {"deletes", Qt::Key_Backspace, "\b", true},
     };
     for (const auto &row : rows) {
         KeyRepeatGuard guard;

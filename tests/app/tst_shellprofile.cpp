@@ -56,11 +56,12 @@ private slots:
         QVERIFY(!writeLocaleLine(m_directory.path(), "x"));
 
         // Reading this process's memory from its start fails as a worn-out storage does.
+        if (!QFile(QStringLiteral("/proc/self/mem")).open(QIODevice::ReadWrite))
+            QSKIP("/proc can only be read here, as where packages are built");
         const LogCapture log;
         QVERIFY(writeLocaleLine(QStringLiteral("/proc/self/mem"), "x"));
-        QCOMPARE(log.texts(QStringLiteral("shellprofile")),
-                 QStringList(
-                     QStringLiteral("C Reading /proc/self/mem failed, nothing is written.")));
+        QCOMPARE(log.texts(QStringLiteral("shellprofile")).join(QString()),
+                 QStringLiteral("C Reading /proc/self/mem failed, nothing is written."));
     }
 };
 
