@@ -328,7 +328,6 @@ int DialogMain::get_cur_display_info(T_Resolution &resolution)
 
 int DialogMain::readEdid(unsigned char *edid)
 {
-    const DdcLines lines;
     return fetchEdid(edid);
 }
 
@@ -340,8 +339,14 @@ void DialogMain::listAllResolutions()
 void DialogMain::listMonitorResolutions()
 {
     unsigned char edid[EDID_BLOCK_SIZE] = {};
+    int result = -1;
+    {
+        // Led back before a message waits for the user.
+        const DdcLines lines;
+        result = readEdid(edid);
+    }
     T_NativeTiming native;
-    if (readEdid(edid) != 0) {
+    if (result != 0) {
         showError(tr("Cannot read edid information."));
     } else if (getNativeTiming(edid, native) != 0) {
         showError(tr("Parsing edid information failed."));

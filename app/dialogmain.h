@@ -71,8 +71,7 @@ private:
     bool parseItem(T_Resolution &resolution, const QString &item);
     // Reads the mode that the boot loader's environment holds. 0, or -1 when there is none.
     int get_cur_display_info(T_Resolution &resolution);
-    // Reads the attached monitor's EDID block, 128 bytes, into edid, with the switched lines led to
-    // their buses meanwhile; see fetchEdid.
+    // Reads the attached monitor's EDID block, 128 bytes, into edid; see fetchEdid.
     int readEdid(unsigned char *edid);
 
     // Fills the list with every standard mode; nothing is selected.
