@@ -77,7 +77,7 @@ DialogMain::DialogMain(QWidget *parent)
     m_timer = new QTimer(this);
     createMenu();
     initConnections();
-    new ScreenKeeper(this);
+    m_screenKeeper = new ScreenKeeper(this);
     readProductFlags();
     m_actPreference->setVisible(hasOtpApplication());
     listMonitorResolutions();
@@ -247,13 +247,20 @@ void DialogMain::btnApply_clicked(bool /*checked*/)
 
     // A program that ended before the answer would leave a mode that perhaps cannot be seen.
     const HeldSignals untilAnswered;
+    m_screenKeeper->rememberPlace();
     // The new mode comes first and the question after it, so that the user judges what can be seen.
     switchScreen(wanted);
     DialogConfirm dialog(this);
     if (dialog.exec() == QDialog::Accepted)
         keep(wanted);
     else
-        switchScreen(m_curResolution);
+        takeBack();
+}
+
+void DialogMain::takeBack()
+{
+    switchScreen(m_curResolution);
+    m_screenKeeper->returnToPlace();
 }
 
 void DialogMain::btnOK_clicked(bool /*checked*/)

@@ -11,6 +11,7 @@
 class QAction;
 class QMenu;
 class QTimer;
+class ScreenKeeper;
 class Ui_DialogMain;
 
 // The program's one top-level window: the list of display modes, the clock, the language, and the
@@ -84,6 +85,8 @@ private:
     QString selectedItem() const;
     // Stores a mode for the next start and takes it as the current one.
     void keep(const T_Resolution &resolution);
+    // Brings the current mode back, and the window to where it was with it.
+    void takeBack();
 
     void startUpgraderSelf();
     // true: the standard test application; false: the OTP one.
@@ -110,4 +113,5 @@ private:
     QAction *m_actFactoryReset = nullptr;
     QAction *m_actFanSetting = nullptr;
     quint32 m_productFlags = 0;
+    ScreenKeeper *m_screenKeeper = nullptr;
 };

@@ -2,7 +2,7 @@
 #include "app/errorbox.h"
 
 #include "app/shortenedmessage.h"
-#include "display/screenkeeper.h"
+#include "display/screenarea.h"
 
 ErrorBox::ErrorBox(QWidget &parent, const QString &title, const QString &text)
     : QMessageBox(&parent)

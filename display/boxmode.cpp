@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/boxmode.h"
 
-#include "display/screenkeeper.h"
+#include "display/screenarea.h"
 #include "libOxUtils/utils/utils.h"
 #include "libOxUtils/utils/waitcursor.h"
 

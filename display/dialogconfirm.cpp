@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/dialogconfirm.h"
 
+#include "display/screenarea.h"
 #include "display/screenkeeper.h"
 #include "ui_dialogconfirm.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "display/screenkeeper.h"
+#include "display/screenarea.h"
 
 #include <QtTest>
 
-class TestScreenKeeper : public QObject
+class TestScreenArea : public QObject
 {
     Q_OBJECT
 
@@ -11,7 +11,7 @@ private slots:
     void placesOnScreen();
 };
 
-void TestScreenKeeper::placesOnScreen()
+void TestScreenArea::placesOnScreen()
 {
     const auto place = [](int x, int y, int width = 286, int height = 323) {
         return placeOnScreen(QRect(x, y, width, height), QRect(0, 0, 800, 600));
@@ -22,5 +22,5 @@ void TestScreenKeeper::placesOnScreen()
     QCOMPARE(place(30, 30, 1000, 700), QPoint(0, 0));
 }
 
-QTEST_APPLESS_MAIN(TestScreenKeeper)
-#include "tst_screenkeeper.moc"
+QTEST_APPLESS_MAIN(TestScreenArea)
+#include "tst_screenarea.moc"
