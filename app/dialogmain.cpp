@@ -28,6 +28,7 @@
 #include "display/modetext.h"
 #include "display/monitor/edid.h"
 #include "display/monitor/modes.h"
+#include "display/screenconfiguration.h"
 #include "display/screenkeeper.h"
 #include "libOxUtils/utils/commandline.h"
 #include "libOxUtils/utils/log.h"
@@ -247,6 +248,7 @@ void DialogMain::btnApply_clicked(bool /*checked*/)
 
     // A program that ended before the answer would leave a mode that perhaps cannot be seen.
     const HeldSignals untilAnswered;
+    const std::optional<ScreenConfiguration> before = shownConfiguration();
     m_screenKeeper->rememberPlace();
     // The new mode comes first and the question after it, so that the user judges what can be seen.
     switchScreen(wanted);
@@ -254,12 +256,13 @@ void DialogMain::btnApply_clicked(bool /*checked*/)
     if (dialog.exec() == QDialog::Accepted)
         keep(wanted);
     else
-        takeBack();
+        takeBack(before);
 }
 
-void DialogMain::takeBack()
+void DialogMain::takeBack(const std::optional<ScreenConfiguration> &before)
 {
     switchScreen(m_curResolution);
+    restoreIfRejectedModeLeft(before, m_curResolution);
     m_screenKeeper->returnToPlace();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "display/monitor/displaymode.h"
+#include "display/screenconfiguration.h"
 #include "libOxUtils/utils/log.h"
 
 #include <QDialog>
@@ -85,8 +86,8 @@ private:
     QString selectedItem() const;
     // Stores a mode for the next start and takes it as the current one.
     void keep(const T_Resolution &resolution);
-    // Brings the current mode back, and the window to where it was with it.
-    void takeBack();
+    // Brings the current mode back, or else what the screen showed before, and the window with it.
+    void takeBack(const std::optional<ScreenConfiguration> &before);
 
     void startUpgraderSelf();
     // true: the standard test application; false: the OTP one.

@@ -12,6 +12,7 @@
 
 #include <QtWidgets>
 
+#include <csignal>
 #include <cstdio>
 #include <memory>
 
@@ -30,7 +31,7 @@ QString operator""_s(const char *text, std::size_t size)
 const QString PROFILE = "/etc/profile"_s;
 const QString TERMINAL = "/usr/share/applications/matchbox-terminal.desktop"_s;
 const QString SWITCH = "/sys/class/leds/vga-i2c-enb/brightness"_s;
-enum Answer { Keep, Restore, Escape, Wait };
+enum Answer { Keep, Restore, Escape, Enter, Wait, Terminate };
 
 QByteArray profileWith(const QByteArray &locale)
 {
@@ -133,8 +134,11 @@ Action answerQuestion(Answer answer, const QString &before)
         const auto *picture = widget->findChild<QLabel *>("label_2"_s);
         QVERIFY(!picture->property("pixmap").value<QPixmap>().isNull());
         const auto *sentence = widget->findChild<QLabel *>("m_lblQuestion"_s);
-        if (answer == Escape)
-            QTest::keyClick(widget, Qt::Key_Escape);
+        if (answer == Escape || answer == Enter)
+            QTest::keyClick(widget, answer == Enter ? Qt::Key_Return : Qt::Key_Escape);
+        else if (answer == Terminate)
+            QVERIFY(std::raise(SIGTERM) == 0 &&
+                    QTest::qWaitFor([=] { return widget->isHidden(); }));
         else if (answer != Wait)
             (answer == Keep ? keep : restore)->click();
         for (int left = 30; widget->isVisible(); --left) {
@@ -178,6 +182,31 @@ const struct Opening
     {"no variable", "none", "1920x1080", "", NO_MODE, ""},
     {"no rate", "none", "1920x1080", "800x600@", NO_MODE, "D 800x600@0"},
     {"no boot environment", "none", FULL, NO_MODE, "C \"no words\n\""},
+};
+
+// A rejected mode, and what the command that brings the old one back does meanwhile. The screen
+// shows 1920 x 1080 before the question and after it.
+const struct Rejection
+{
+    const char *name, *monitor, *stored, *error, *xrandr;
+    Answer answer;
+    const char *called;
+} REJECTIONS[] = {
+#define REAL "exec /usr/bin/xrandr \"$@\""
+#define UNREAD "Cannot read edid information."
+    {"no monitor", "none", "1920x1080", UNREAD, REAL, Escape, "xrandr -s 0x0 -r 0\n"},
+    {"garbage", "garbage", "1920x1080", UNREAD, REAL, Enter, "xrandr -s 0x0 -r 0\n"},
+    {"no timing", "no-timing", "1920x1080", "Parsing edid information failed.", REAL, Wait,
+     "xrandr -s 0x0 -r 0\n"},
+    {"nothing stored", "1920x1080", "", "Getting current display information failed.", REAL,
+     Terminate, "xrandr -s 0x0 -r 0\n"},
+    {"stored mode that the screen lacks", "1920x1080", "1600x1000", "", REAL, Enter,
+     "xrandr -s 1600x1000 -r 60\n"},
+    {"failing command", "1920x1080", "1920x1080", "", "exit 1", Escape,
+     "xrandr -s 1920x1080 -r 60\n"},
+    {"hanging command", "1920x1080", "1920x1080", "", "exec sleep 20", Wait,
+     "xrandr -s 1920x1080 -r 60\n"},
+    {"missing command", "1920x1080", "1920x1080", "", nullptr, Terminate, ""},
 };
 
 // How the window is closed, and what that leaves.
@@ -522,6 +551,38 @@ private slots:
         press("m_btnOK");
         QCOMPARE(newCalls(), there);
         QVERIFY(!m_dialog->isVisible());
+    }
+
+    void rejects_data() { addRows(REJECTIONS); }
+
+    void rejects()
+    {
+        QFETCH(int, row);
+        const Rejection &rejection = REJECTIONS[row];
+        QProcess::execute("/usr/bin/xrandr"_s, {"-s"_s, "1920x1080"_s, "-r"_s, "60"_s});
+        write("/run/simbox/hdmi"_s, rejection.monitor);
+        store(QLatin1String(rejection.stored));
+        const QString error = QLatin1String(rejection.error);
+        {
+            const ModalAnswers modal(error.isEmpty() ? std::vector<Action>()
+                                                     : std::vector{confirmError(error)});
+            open();
+        }
+        widget<QCheckBox>()->click();
+        QVERIFY(offers("800 x 600"_s));
+        std::signal(SIGTERM, [](int) {});
+        const QByteArray path = qgetenv("PATH");
+        const auto restored = qScopeGuard([&] { qputenv("PATH", path); });
+        const auto xrandr =
+            replaced("xrandr", QByteArray("[ $2 = 800x600 ] && ") + REAL + '\n' + rejection.xrandr);
+        const ModalAnswers modal({[&](QWidget *question) {
+            if (!rejection.xrandr)
+                qputenv("PATH", "/nowhere");
+            answerQuestion(rejection.answer, "xrandr -s 800x600 -r 60\n"_s)(question);
+        }});
+        press("m_btnApply");
+        QCOMPARE(newCalls(), QLatin1String(rejection.called));
+        QTRY_COMPARE(QGuiApplication::primaryScreen()->size(), QSize(1920, 1080));
     }
 
     void leaves_data() { addRows(LEAVINGS); }
