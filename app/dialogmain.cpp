@@ -36,8 +36,8 @@
 #include "maintenance/dialogclock.h"
 #include "maintenance/dialogfantempparam.h"
 #include "maintenance/dialogpreference.h"
+#include "maintenance/embeddedscript.h"
 #include "maintenance/identity/productbarcode.h"
-#include "maintenance/outcome.h"
 #include "ui_dialogmain.h"
 
 #include <QContextMenuEvent>
@@ -138,16 +138,29 @@ void DialogMain::showError(const QString &text)
 
 void DialogMain::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_F1)
+    if (event->key() == Qt::Key_F1) {
         DialogAbout(this).exec();
-    else if (event->key() == Qt::Key_F12)
+    } else if (event->key() == Qt::Key_F12) {
         startUpgraderSelf();
-    else if (event->key() == Qt::Key_F10)
-        adjustGamma(OX_LOG_AT(GAMMA_CHOSEN), OX_LOG_AT(GAMMA_FAILED));
-    else if (event->key() == Qt::Key_E && event->modifiers().testFlag(Qt::ControlModifier))
-        promptForInstruction(OX_LOG_AT(TERMINAL_ENTRY_MISSING), OX_LOG_AT(INSTRUCTION_UNKNOWN));
-    else
+    } else if (event->key() == Qt::Key_F10) {
+        if (!askForGamma())
+            return;
+        oxlog::debug(OX_LOG_AT(GAMMA_CHOSEN), QString::number(static_cast<double>(m_gamma)));
+        const ScreenGamma gamma(m_gamma);
+        if (!gamma.IsSet())
+            oxlog::critical(OX_LOG_AT(GAMMA_FAILED), QStringLiteral("Setting gamma failed."));
+    } else if (event->key() == Qt::Key_E && event->modifiers().testFlag(Qt::ControlModifier)) {
+        QString typed;
+        const InstructionResult result = promptForInstruction(typed);
+        if (result == InstructionResult::NoEntry)
+            oxlog::critical(OX_LOG_AT(TERMINAL_ENTRY_MISSING),
+                            QStringLiteral("Loading configure file failed."));
+        else if (result == InstructionResult::Unknown)
+            oxlog::debug(OX_LOG_AT(INSTRUCTION_UNKNOWN),
+                         QStringLiteral("Unkown instruction: '%1'!").arg(typed));
+    } else {
         QDialog::keyPressEvent(event);
+    }
 }
 
 void DialogMain::contextMenuEvent(QContextMenuEvent * /*event*/)
@@ -156,36 +169,29 @@ void DialogMain::contextMenuEvent(QContextMenuEvent * /*event*/)
     m_menu->exec(QCursor::pos());
 }
 
-void DialogMain::adjustGamma(const oxlog::Site &valueSite, const oxlog::Site &failureSite)
+bool DialogMain::askForGamma()
 {
     DialogGamma dialog(this);
     dialog.SetGamma(m_gamma);
     if (dialog.exec() != QDialog::Accepted)
-        return;
+        return false;
 
     // The value stays on offer for the next time even if the framebuffer does not take it.
     m_gamma = dialog.GetGamma();
-    oxlog::debug(valueSite, QString::number(static_cast<double>(m_gamma)));
-    if (!setScreenGamma(m_gamma))
-        oxlog::critical(failureSite, QStringLiteral("Setting gamma failed."));
+    return true;
 }
 
-void DialogMain::promptForInstruction(const oxlog::Site &loadSite, const oxlog::Site &unknownSite)
+InstructionResult DialogMain::promptForInstruction(QString &typed)
 {
-    const QString typed =
+    typed =
         QInputDialog::getText(this, tr("Please Input Instruction"),
                               tr("The feature is protected by instruction!"), QLineEdit::Password);
-    if (typed.isEmpty())
-        return;
-
     const InstructionResult result = followInstruction(typed);
-    if (result == InstructionResult::NoEntry) {
-        oxlog::critical(loadSite, QStringLiteral("Loading configure file failed."));
-    } else if (result == InstructionResult::Unknown) {
+    if (result == InstructionResult::Unknown) {
         //: The misspelling is part of the interface: the English text keeps it.
         showError(tr("Unkown instruction!"));
-        oxlog::debug(unknownSite, QStringLiteral("Unkown instruction: '%1'!").arg(typed));
     }
+    return result;
 }
 
 void DialogMain::actionUpgradeApp_triggered()
@@ -229,7 +235,7 @@ void DialogMain::actionFactoryReset_triggered()
 void DialogMain::actionFanSetting_triggered()
 {
     // Shown after every acceptance: the log has the reason when the save failed.
-    if (DialogFanTempParam::Run(this) == Outcome::Done)
+    if (DialogFanTempParam::Run(this))
         QMessageBox::information(this, tr("Information"),
                                  tr("Parameters have been changed, reboot to take effect."));
 }
@@ -296,7 +302,10 @@ void DialogMain::listResolution_currentTextChanged(const QString &currentText)
 
 void DialogMain::lblDateTime_mouseDoubleClicked()
 {
-    if (DialogClock::Run(this, OX_LOG_HERE) == Outcome::Failed)
+    const std::optional<ScriptResult> result = DialogClock::Run(this);
+    if (result == ScriptResult::CopyFailed)
+        oxlog::critical(OX_LOG_HERE, QStringLiteral("Copying calclock.sh failed."));
+    else if (result == ScriptResult::RunFailed)
         showError(tr("Setting date time failed."));
 }
 
@@ -331,8 +340,11 @@ bool DialogMain::parseDispInfo2Resolution(T_Resolution &resolution, const QStrin
 int DialogMain::get_cur_display_info(T_Resolution &resolution)
 {
     QString text;
-    if (!readStoredMode(text, OX_LOG_HERE))
+    QString error;
+    if (!readStoredMode(text, error)) {
+        oxlog::critical(OX_LOG_HERE, oxlog::quoted(error));
         return -1;
+    }
     return parseDispInfo2Resolution(resolution, text) ? 0 : -1;
 }
 

@@ -3,7 +3,6 @@
 
 #include "display/monitor/displaymode.h"
 #include "display/screenconfiguration.h"
-#include "libOxUtils/utils/log.h"
 
 #include <QDialog>
 #include <QString>
@@ -14,6 +13,7 @@ class QMenu;
 class QTimer;
 class ScreenKeeper;
 class Ui_DialogMain;
+enum class InstructionResult;
 
 // The program's one top-level window: the list of display modes, the clock, the language, and the
 // way to every maintenance function through its menu and its keys.
@@ -96,9 +96,10 @@ private:
     // The chosen item's text, empty when the user cancels.
     QString askForApplication(const QString &title, const QStringList &applications);
 
-    // The sites are those of the key handler, in whose name the messages stand in the log.
-    void adjustGamma(const oxlog::Site &valueSite, const oxlog::Site &failureSite);
-    void promptForInstruction(const oxlog::Site &loadSite, const oxlog::Site &unknownSite);
+    // Lets the user change the gamma. False after Cancel.
+    bool askForGamma();
+    // Follows an instruction that the user types, and tells the user of an unknown one.
+    InstructionResult promptForInstruction(QString &typed);
 
     // Writes the chosen language's locale into the system-wide profile.
     void selectLanguage();

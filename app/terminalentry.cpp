@@ -19,6 +19,8 @@ QString noDisplayFor(const QString &typed)
 
 InstructionResult followInstruction(const QString &typed)
 {
+    if (typed.isEmpty())
+        return InstructionResult::None;
     ConfFile entry(QStringLiteral("/usr/share/applications/matchbox-terminal.desktop"));
     if (!entry.LoadConf())
         return InstructionResult::NoEntry;

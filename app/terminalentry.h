@@ -4,6 +4,7 @@
 #include <QString>
 
 enum class InstructionResult {
+    None,     // the text is empty; the entry was not looked at
     NoEntry,  // the terminal's desktop entry cannot be read; the instruction was not looked at
     Unknown,  // the text is no instruction
     Followed, // the entry was changed; whether it could be saved is for the log to tell

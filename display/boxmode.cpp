@@ -27,14 +27,11 @@ QString filled(const QString &command, const DisplayMode &mode)
 
 } // namespace
 
-bool readStoredMode(QString &text, const oxlog::Site &failureSite)
+bool readStoredMode(QString &text, QString &error)
 {
     QString output;
-    QString error;
-    if (!run(QStringLiteral("fw_printenv -n display"), output, error)) {
-        oxlog::critical(failureSite, oxlog::quoted(error));
+    if (!run(QStringLiteral("fw_printenv -n display"), output, error))
         return false;
-    }
     text = output.trimmed();
     return true;
 }

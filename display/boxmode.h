@@ -3,13 +3,12 @@
 #pragma once
 
 #include "display/monitor/displaymode.h"
-#include "libOxUtils/utils/log.h"
 
 #include <QString>
 
-// Reads the mode's text from the boot loader's environment, trimmed. False when it cannot be read,
-// which is logged at failureSite, at critical level and with what the command said.
-bool readStoredMode(QString &text, const oxlog::Site &failureSite);
+// Reads the mode's text from the boot loader's environment, trimmed. False when it cannot be read;
+// error then is what the command said, empty if it did not start or did not end in time.
+bool readStoredMode(QString &text, QString &error);
 
 // Switches the screen to a mode, and returns when the toolkit knows the new size or after half a
 // second without it. Whether the screen shows the mode is for the user in front of it to say.

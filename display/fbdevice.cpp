@@ -117,12 +117,15 @@ bool FbDevice::GetVarScreenInfo()
     return true;
 }
 
-bool setScreenGamma(float gamma)
+ScreenGamma::ScreenGamma(float gamma)
 {
     FbDevice *const framebuffer = FbDevice::Instance();
     // Not checked: without an open device the next step fails.
     framebuffer->OpenDevice(FbDevice::DEV_NAME);
-    const bool isSet = framebuffer->SetGamma(gamma);
-    framebuffer->CloseDevice();
-    return isSet;
+    m_isSet = framebuffer->SetGamma(gamma);
+}
+
+ScreenGamma::~ScreenGamma()
+{
+    FbDevice::Instance()->CloseDevice();
 }

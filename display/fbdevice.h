@@ -42,6 +42,18 @@ private:
     QString m_name; // given to the last OpenDevice
 };
 
-// Gives the box's framebuffer the curve for a gamma, any float. False when it does not take it; the
-// log then says why.
-bool setScreenGamma(float gamma);
+// Opens the box's framebuffer, gives it the curve for a gamma, any float, and keeps it open as long
+// as this lives.
+class ScreenGamma
+{
+public:
+    explicit ScreenGamma(float gamma);
+    ~ScreenGamma();
+    Q_DISABLE_COPY(ScreenGamma)
+
+    // False when the framebuffer has not taken the curve; the log then says why.
+    bool IsSet() const { return m_isSet; }
+
+private:
+    bool m_isSet = false;
+};

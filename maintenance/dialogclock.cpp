@@ -1,30 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "maintenance/dialogclock.h"
 
-#include "maintenance/embeddedscript.h"
 #include "ui_dialogclock.h"
 
 #include <QDateTime>
 #include <QFile>
 
-Outcome DialogClock::Run(QWidget *parent, const oxlog::Site &caller)
+std::optional<ScriptResult> DialogClock::Run(QWidget *parent)
 {
     // The clock is set to what the dialog shows: the seconds that pass while it is open are lost.
     QDateTime dateTime = QDateTime::currentDateTime();
     DialogClock dialog(parent);
     dialog.SetDateTime(dateTime);
     if (dialog.exec() != QDialog::Accepted)
-        return Outcome::Nothing;
+        return std::nullopt;
     dialog.GetDateTime(dateTime);
 
     const ScriptResult result =
         runEmbeddedScript(QStringLiteral("calclock.sh"),
-                          {dateTime.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))}, caller);
-    // Without a copy there is nothing to clear away, and the log alone is told.
-    if (result == ScriptResult::CopyFailed)
-        return Outcome::Nothing;
-    QFile::remove(CLOCK_SCRIPT_COPY);
-    return result == ScriptResult::Done ? Outcome::Done : Outcome::Failed;
+                          {dateTime.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))});
+    // What could not be replaced by a copy is not this program's to remove.
+    if (result != ScriptResult::CopyFailed)
+        QFile::remove(CLOCK_SCRIPT_COPY);
+    return result;
 }
 
 DialogClock::DialogClock(QWidget *parent)

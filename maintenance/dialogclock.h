@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "libOxUtils/utils/log.h"
-#include "maintenance/outcome.h"
+#include "maintenance/embeddedscript.h"
 
 #include <QDialog>
 
 #include <memory>
+#include <optional>
 
 class QDateTime;
 
@@ -20,10 +20,10 @@ class DialogClock : public QDialog
     Q_OBJECT
 
 public:
-    // Lets the user set the clocks of the system and of the hardware, and sets them. Nothing after
-    // Cancel, or when the script that sets them could not be copied, which is logged at caller;
-    // Failed when that script failed, and then the system's clock may be set all the same.
-    static Outcome Run(QWidget *parent, const oxlog::Site &caller);
+    // Lets the user set the clocks of the system and of the hardware, and sets them. What came of
+    // the script that sets them, or nothing after Cancel; when it failed, the system's clock may be
+    // set all the same.
+    static std::optional<ScriptResult> Run(QWidget *parent);
 
     explicit DialogClock(QWidget *parent);
     ~DialogClock() override;

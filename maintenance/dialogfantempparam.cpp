@@ -21,17 +21,17 @@ int toThreshold(const QString &text)
 
 } // namespace
 
-Outcome DialogFanTempParam::Run(QWidget *parent)
+bool DialogFanTempParam::Run(QWidget *parent)
 {
     ConfFile conf(QStringLiteral("/etc/fand.conf"));
     if (!conf.LoadConf())
-        return Outcome::Nothing;
+        return false;
 
     DialogFanTempParam dialog(parent);
     dialog.SetThresholds(toThreshold(conf.GetValue(LOWER_KEY)),
                          toThreshold(conf.GetValue(UPPER_KEY)));
     if (dialog.exec() != QDialog::Accepted)
-        return Outcome::Nothing;
+        return false;
 
     int lower = 0;
     int upper = 0;
@@ -39,7 +39,7 @@ Outcome DialogFanTempParam::Run(QWidget *parent)
     conf.SetValue(LOWER_KEY, QString::number(lower));
     conf.SetValue(UPPER_KEY, QString::number(upper));
     conf.SaveConf();
-    return Outcome::Done;
+    return true;
 }
 
 DialogFanTempParam::DialogFanTempParam(QWidget *parent)

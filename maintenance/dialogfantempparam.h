@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "maintenance/outcome.h"
-
 #include <QDialog>
 
 #include <memory>
@@ -18,10 +16,10 @@ class DialogFanTempParam : public QDialog
     Q_OBJECT
 
 public:
-    // Lets the user edit the thresholds in the fan control's file. Nothing when there is no such
-    // file, which shows no dialog, or after Cancel; Done after OK, also when the file could not be
-    // saved.
-    static Outcome Run(QWidget *parent);
+    // Lets the user edit the thresholds in the fan control's file. True after OK, also when the
+    // file could not be saved; false after Cancel, or when there is no such file, which shows no
+    // dialog.
+    static bool Run(QWidget *parent);
 
     explicit DialogFanTempParam(QWidget *parent);
     ~DialogFanTempParam() override;

@@ -47,9 +47,9 @@ void DialogPreference::buttonBox_clicked(QAbstractButton *button)
     if (which != QDialogButtonBox::Ok)
         return;
 
-    const ScriptResult result =
-        runEmbeddedScript(QStringLiteral("autobootapp.sh"), desktopFiles(), OX_LOG_HERE);
+    const ScriptResult result = runEmbeddedScript(QStringLiteral("autobootapp.sh"), desktopFiles());
     if (result == ScriptResult::CopyFailed) {
+        oxlog::critical(OX_LOG_HERE, QStringLiteral("Copying autobootapp.sh failed."));
         reject();
         return;
     }

@@ -6,18 +6,14 @@
 
 #include <QFile>
 
-ScriptResult runEmbeddedScript(const QString &name, const QStringList &arguments,
-                               const oxlog::Site &caller)
+ScriptResult runEmbeddedScript(const QString &name, const QStringList &arguments)
 {
     const QString copy = QStringLiteral("/tmp/") + name;
-    // QFile does not copy over a file. If the old copy cannot be removed, the copying fails and
-    // says so.
+    // QFile does not copy over a file. If the old copy cannot be removed, the copying fails.
     if (QFile::exists(copy))
         QFile::remove(copy);
-    if (!QFile::copy(QStringLiteral("://") + name, copy)) {
-        oxlog::critical(caller, QStringLiteral("Copying %1 failed.").arg(name));
+    if (!QFile::copy(QStringLiteral("://") + name, copy))
         return ScriptResult::CopyFailed;
-    }
     // The copy is not executable, and need not be: sh reads it.
     const WaitCursor waiting;
     return Utils::ExecShellFile(copy, arguments, QString()) ? ScriptResult::Done

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "libOxUtils/utils/log.h"
-
 #include <QStringList>
 
 // Where the clock's script is copied to.
 const QString CLOCK_SCRIPT_COPY = QStringLiteral("/tmp/calclock.sh");
 
 enum class ScriptResult {
-    CopyFailed, // told to the log
+    CopyFailed, // nothing was run
     RunFailed,  // did not start, or did not end with status 0
     Done,
 };
@@ -17,6 +15,5 @@ enum class ScriptResult {
 // Copies the script of that name from the root of the resource tree into /tmp, over a copy that an
 // earlier run left, and runs it through sh with the arguments, in the current directory and
 // for as long as it takes. The pointer is a wait cursor meanwhile. The copy is left to the caller,
-// and so is the message to the user; a failed copy is logged in the caller's name.
-ScriptResult runEmbeddedScript(const QString &name, const QStringList &arguments,
-                               const oxlog::Site &caller);
+// and so is every message.
+ScriptResult runEmbeddedScript(const QString &name, const QStringList &arguments);

@@ -45,17 +45,16 @@ QString rendered(const ConfFile::T_ConfItem &item)
     return line.trimmed();
 }
 
-// Opens a file that has to be there already. A failure is logged in the caller's name.
-bool openExisting(QFile &file, QIODevice::OpenMode mode, const oxlog::Site &caller)
+// Opens a file that has to be there already. False when that fails; error then says why.
+bool openExisting(QFile &file, QIODevice::OpenMode mode, QString &error)
 {
     if (!file.exists()) {
-        oxlog::critical(caller, QStringLiteral("File does not exist..."));
+        error = QStringLiteral("File does not exist...");
         return false;
     }
     // Anything but a file, a pipe for one, could hold the program for ever.
     if (!QFileInfo(file).isFile() || !file.open(mode | QIODevice::Text)) {
-        oxlog::critical(caller, oxlog::quoted(
-                                    QStringLiteral("Cannot open file: %1!").arg(file.fileName())));
+        error = oxlog::quoted(QStringLiteral("Cannot open file: %1!").arg(file.fileName()));
         return false;
     }
     return true;
@@ -115,8 +114,11 @@ bool ConfFile::SaveConf()
 bool ConfFile::loadToStringList(QStringList &lines)
 {
     QFile file(m_fileName);
-    if (!openExisting(file, QIODevice::ReadOnly, OX_LOG_HERE))
+    QString error;
+    if (!openExisting(file, QIODevice::ReadOnly, error)) {
+        oxlog::critical(OX_LOG_HERE, error);
         return false;
+    }
     QTextStream stream(&file);
     const QString text = stream.readAll();
     if (file.error() != QFileDevice::NoError) {
@@ -136,8 +138,11 @@ bool ConfFile::loadToStringList(QStringList &lines)
 bool ConfFile::saveFromStringList(const QStringList &lines)
 {
     QFile file(m_fileName);
-    if (!openExisting(file, QIODevice::WriteOnly, OX_LOG_HERE))
+    QString error;
+    if (!openExisting(file, QIODevice::WriteOnly, error)) {
+        oxlog::critical(OX_LOG_HERE, error);
         return false;
+    }
     // As one text, so that the file stands truncated for as short as possible: the box may lose
     // power right after a setting is changed.
     QTextStream stream(&file);
