@@ -17,6 +17,7 @@
 
 #include "app/errorbox.h"
 #include "app/heldsignals.h"
+#include "app/languages.h"
 #include "app/shellprofile.h"
 #include "app/terminalentry.h"
 #include "app/testapplication.h"
@@ -74,6 +75,9 @@ DialogMain::DialogMain(QWidget *parent)
     , ui(new Ui_DialogMain)
 {
     ui->setupUi(this);
+    // Not translated: the choice is compared with these words, and any other means English.
+    for (const Language &language : LANGUAGES)
+        ui->m_cmbLanguage->addItem(QLatin1String(language.item));
     secTimer_timeout();
     m_timer = new QTimer(this);
     createMenu();

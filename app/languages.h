@@ -10,6 +10,7 @@ struct Language
     std::string_view localeLine;
 };
 
+// In the order of the language box, which starts on the first.
 inline constexpr Language LANGUAGES[] = {
     {"Chinese", "export LANG=zh_CN.UTF-8"},
     {"English", "export LANG=en_US.UTF-8"},

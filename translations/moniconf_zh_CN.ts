@@ -118,16 +118,6 @@
         <translation>语言</translation>
     </message>
     <message>
-        <source>Chinese</source>
-        <extracomment>Stays as it is in every language: the choice is compared with this very word, and under another name every choice would mean English.</extracomment>
-        <translation>Chinese</translation>
-    </message>
-    <message>
-        <source>English</source>
-        <extracomment>Stays as it is in every language, like the item above it.</extracomment>
-        <translation>English</translation>
-    </message>
-    <message>
         <source>Apply</source>
         <translation>应用</translation>
     </message>
