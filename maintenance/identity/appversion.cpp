@@ -8,9 +8,6 @@
 
 namespace {
 
-constexpr int VERSION_MAJOR = 1;
-constexpr int VERSION_MINOR = 2;
-
 // The zone that versions are told in, UTC+8.
 constexpr int VERSION_ZONE_SECONDS = 8 * 60 * 60;
 
