@@ -20,7 +20,7 @@
 #include "app/languages.h"
 #include "app/shellprofile.h"
 #include "app/terminalentry.h"
-#include "app/testapplication.h"
+#include "app/upgrader.h"
 #include "display/boxmode.h"
 #include "display/dialogconfirm.h"
 #include "display/dialoggamma.h"
@@ -39,6 +39,7 @@
 #include "maintenance/dialogpreference.h"
 #include "maintenance/embeddedscript.h"
 #include "maintenance/identity/productbarcode.h"
+#include "maintenance/testapplication.h"
 #include "ui_dialogmain.h"
 
 #include <QContextMenuEvent>
@@ -200,15 +201,13 @@ InstructionResult DialogMain::promptForInstruction(QString &typed)
 
 void DialogMain::actionUpgradeApp_triggered()
 {
-    //: The name of an application; it stays as it is.
-    QStringList applications{tr("vexastd")};
-    if (hasOtpApplication()) {
-        //: The name of an application; it stays as it is.
-        applications << tr("vxotp");
-    }
+    const QString standard = tr(standardApplication().name);
+    QStringList applications{standard};
+    if (hasOtpApplication())
+        applications << tr(otpApplication().name);
     const QString chosen = askForApplication(tr("Upgrade Application"), applications);
     if (!chosen.isEmpty())
-        startUpgraderApp(chosen == tr("vexastd"));
+        startUpgraderApp(chosen == standard);
 }
 
 void DialogMain::actionUpgradeFs_triggered()
@@ -231,9 +230,11 @@ void DialogMain::actionFactoryReset_triggered()
 
     // Both are on offer, unlike for an upgrade: settings can be left of an application that the
     // product's flags do not name.
-    const QString chosen = askForApplication(tr("Factory Reset"), {tr("vexastd"), tr("vxotp")});
+    const QString standard = tr(standardApplication().name);
+    const QString chosen =
+        askForApplication(tr("Factory Reset"), {standard, tr(otpApplication().name)});
     if (!chosen.isEmpty())
-        removeSettings(chosen == tr("vexastd") ? standardApplication() : otpApplication());
+        removeSettings(chosen == standard ? standardApplication() : otpApplication());
 }
 
 void DialogMain::actionFanSetting_triggered()
@@ -423,14 +424,14 @@ void DialogMain::startUpgraderSelf()
 
 void DialogMain::startUpgraderApp(bool standard)
 {
+    const TestApplication application = standard ? standardApplication() : otpApplication();
+    const QString message =
+        QStringLiteral("Starting upgrader %1...").arg(QLatin1String(application.name));
     if (standard)
-        oxlog::debug(OX_LOG_AT(UPGRADING_STANDARD_APPLICATION),
-                     QStringLiteral("Starting upgrader vexastd..."));
+        oxlog::debug(OX_LOG_AT(UPGRADING_STANDARD_APPLICATION), message);
     else
-        oxlog::debug(OX_LOG_AT(UPGRADING_OTP_APPLICATION),
-                     QStringLiteral("Starting upgrader vxotp..."));
-    startDetachedCommand(
-        upgradeApplicationCommand(standard ? standardApplication() : otpApplication()));
+        oxlog::debug(OX_LOG_AT(UPGRADING_OTP_APPLICATION), message);
+    startDetachedCommand(upgradeApplicationCommand(application));
 }
 
 void DialogMain::startUpgraderFs()

@@ -6,6 +6,7 @@
 
 #include "app/globalvars.h"
 #include "maintenance/embeddedscript.h"
+#include "maintenance/testapplication.h"
 #include "ui_dialogpreference.h"
 
 #include <QFile>
@@ -69,8 +70,8 @@ void DialogPreference::buttonBox_clicked(QAbstractButton *button)
 
 QStringList DialogPreference::desktopFiles() const
 {
-    const QString standard = QStringLiteral("vexastd.desktop");
-    const QString otp = QStringLiteral("vxotp.desktop");
+    const QString standard = desktopFile(standardApplication());
+    const QString otp = desktopFile(otpApplication());
     if (ui->m_rdoVexastd->isChecked())
         return {standard, otp};
     if (ui->m_rdoVxotp->isChecked())

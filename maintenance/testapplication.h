@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The test applications that the box carries, and the upgrader's command lines.
+// The test applications that the box carries.
 #pragma once
 
 #include <QString>
@@ -7,10 +7,10 @@
 
 struct TestApplication
 {
+    const char *name;          // of its process, and for the user, translatable in "DialogMain"
     QString directory;         // name below parentDirectory
     QString parentDirectory;   // absolute path
-    QString program;           // process name
-    QStringList settingsFiles; // absolute paths, in the order in which a factory reset removes them
+    QStringList settingsFiles; // names in directory; a factory reset removes them in this order
 };
 
 // The application that every box carries.
@@ -19,12 +19,9 @@ TestApplication standardApplication();
 // The OTP application, which only some product types carry.
 TestApplication otpApplication();
 
+// The name of the application's desktop file.
+QString desktopFile(const TestApplication &application);
+
 // Removes the application's settings files. One that is missing or cannot be removed is passed
 // over.
 void removeSettings(const TestApplication &application);
-
-// Command lines of the system's upgrader, to be started detached: for this program itself, for a
-// test application and for the root file system.
-QString upgradeSelfCommand();
-QString upgradeApplicationCommand(const TestApplication &application);
-QString upgradeFileSystemCommand();

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "app/upgrader.h"
+
+QString upgradeSelfCommand()
+{
+    // The name stands twice: the upgrader takes two arguments.
+    const QString name = QStringLiteral("moniconf");
+    return QStringLiteral("upgrader app %1 %2").arg(name, name);
+}
+
+QString upgradeApplicationCommand(const TestApplication &application)
+{
+    return QStringLiteral("upgrader %1 %2 %3")
+        .arg(application.directory, application.parentDirectory, QLatin1String(application.name));
+}
+
+QString upgradeFileSystemCommand()
+{
+    // The pass phrase is a fixed part of the upgrader's interface and passes in the open.
+    return QStringLiteral("upgrader fs %1 %2")
+        .arg(QStringLiteral("fs_patches"), QStringLiteral("tore7malvin2ek+"));
+}
