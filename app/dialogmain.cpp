@@ -19,7 +19,6 @@
 #include "app/heldsignals.h"
 #include "app/languages.h"
 #include "app/shellprofile.h"
-#include "app/terminalentry.h"
 #include "app/upgrader.h"
 #include "display/boxmode.h"
 #include "display/dialogconfirm.h"
@@ -31,7 +30,6 @@
 #include "display/monitor/modes.h"
 #include "display/screenconfiguration.h"
 #include "display/screenkeeper.h"
-#include "libOxUtils/utils/commandline.h"
 #include "libOxUtils/utils/log.h"
 #include "maintenance/dialogabout.h"
 #include "maintenance/dialogclock.h"
@@ -419,7 +417,7 @@ void DialogMain::keep(const T_Resolution &resolution)
 void DialogMain::startUpgraderSelf()
 {
     oxlog::debug(OX_LOG_AT(UPGRADING_SELF), QStringLiteral("Starting upgrader self..."));
-    startDetachedCommand(upgradeSelfCommand());
+    startUpgrader(upgradeSelfCommand());
 }
 
 void DialogMain::startUpgraderApp(bool standard)
@@ -431,14 +429,14 @@ void DialogMain::startUpgraderApp(bool standard)
         oxlog::debug(OX_LOG_AT(UPGRADING_STANDARD_APPLICATION), message);
     else
         oxlog::debug(OX_LOG_AT(UPGRADING_OTP_APPLICATION), message);
-    startDetachedCommand(upgradeApplicationCommand(application));
+    startUpgrader(upgradeApplicationCommand(application));
 }
 
 void DialogMain::startUpgraderFs()
 {
     oxlog::debug(OX_LOG_AT(UPGRADING_FILE_SYSTEM),
                  QStringLiteral("Starting upgrader file system..."));
-    startDetachedCommand(upgradeFileSystemCommand());
+    startUpgrader(upgradeFileSystemCommand());
 }
 
 QString DialogMain::askForApplication(const QString &title, const QStringList &applications)

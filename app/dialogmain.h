@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/terminalentry.h"
 #include "display/monitor/displaymode.h"
 #include "display/screenconfiguration.h"
 
@@ -13,7 +14,6 @@ class QMenu;
 class QTimer;
 class ScreenKeeper;
 class Ui_DialogMain;
-enum class InstructionResult;
 
 // The program's one top-level window: the list of display modes, the clock, the language, and the
 // way to every maintenance function through its menu and its keys.
@@ -68,13 +68,13 @@ private:
     void showError(const QString &text);
 
     // Reads a mode text into resolution, its text included; see parseModeText.
-    bool parseDispInfo2Resolution(T_Resolution &resolution, const QString &text);
+    [[nodiscard]] bool parseDispInfo2Resolution(T_Resolution &resolution, const QString &text);
     // Reads an item of the list into resolution. False when it is no mode, which the user is told.
-    bool parseItem(T_Resolution &resolution, const QString &item);
+    [[nodiscard]] bool parseItem(T_Resolution &resolution, const QString &item);
     // Reads the mode that the boot loader's environment holds. 0, or -1 when there is none.
-    int get_cur_display_info(T_Resolution &resolution);
+    [[nodiscard]] int get_cur_display_info(T_Resolution &resolution);
     // Reads the attached monitor's EDID block, 128 bytes, into edid; see fetchEdid.
-    int readEdid(unsigned char *edid);
+    [[nodiscard]] int readEdid(unsigned char *edid);
 
     // Fills the list with every standard mode; nothing is selected.
     void listAllResolutions();

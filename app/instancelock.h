@@ -11,7 +11,7 @@
 class InstanceLock
 {
 public:
-    enum class Result {
+    enum class [[nodiscard]] Result{
         Taken,
         Held,     // by another process of this user
         Unusable, // not to be created, or not a file of this user's own

@@ -20,7 +20,7 @@ public:
     // most over connecting, writing and the answer. False when this is the running instance, when
     // none under the same user answers in time, or when lock or socket cannot be made in the
     // temporary directory: the caller then starts up as usual.
-    bool sendMessage(const QString &message, int timeout = 5000);
+    [[nodiscard]] bool sendMessage(const QString &message, int timeout = 5000);
 
 private:
     enum class Role {

@@ -20,4 +20,4 @@ qint64 localeLineOffset(const QByteArray &profile);
 // and no line end is added. False when the file cannot be opened for reading and writing; it is
 // not created. When it cannot be read to its end, the log says so and nothing is written. Errors of
 // the write itself are not looked at.
-bool writeLocaleLine(const QString &fileName, const QByteArray &line);
+[[nodiscard]] bool writeLocaleLine(const QString &fileName, const QByteArray &line);

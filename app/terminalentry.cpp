@@ -28,6 +28,7 @@ InstructionResult followInstruction(const QString &typed)
     if (noDisplay.isNull())
         return InstructionResult::Unknown;
     entry.SetValue(QStringLiteral("NoDisplay"), noDisplay);
-    entry.SaveConf();
+    // Not told: the log has the reason, and the launcher shows whether it has changed.
+    static_cast<void>(entry.SaveConf());
     return InstructionResult::Followed;
 }

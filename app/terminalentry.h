@@ -3,7 +3,7 @@
 
 #include <QString>
 
-enum class InstructionResult {
+enum class [[nodiscard]] InstructionResult{
     None,     // the text is empty; the entry was not looked at
     NoEntry,  // the terminal's desktop entry cannot be read; the instruction was not looked at
     Unknown,  // the text is no instruction

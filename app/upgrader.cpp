@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/upgrader.h"
 
+#include "libOxUtils/utils/commandline.h"
+
 QString upgradeSelfCommand()
 {
     // The name stands twice: the upgrader takes two arguments.
@@ -19,4 +21,10 @@ QString upgradeFileSystemCommand()
     // The pass phrase is a fixed part of the upgrader's interface and passes in the open.
     return QStringLiteral("upgrader fs %1 %2")
         .arg(QStringLiteral("fs_patches"), QStringLiteral("tore7malvin2ek+"));
+}
+
+void startUpgrader(const QString &command)
+{
+    // Not reported: an upgrade that does not begin shows by itself, and the log has the request.
+    static_cast<void>(startDetachedCommand(command));
 }

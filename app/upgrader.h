@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Command lines of the system's upgrader, to be started detached.
+// The system's upgrader: its command lines, and its start.
 #pragma once
 
 #include "maintenance/testapplication.h"
@@ -14,3 +14,7 @@ QString upgradeApplicationCommand(const TestApplication &application);
 
 // For the root file system.
 QString upgradeFileSystemCommand();
+
+// Starts the upgrader with one of these, on its own, so that it can replace this program. Nobody is
+// told when it is missing.
+void startUpgrader(const QString &command);

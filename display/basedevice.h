@@ -12,7 +12,7 @@ public:
 
     // Opens the file. True at once when a file is open already, whatever its path: the first one
     // stays. False when it cannot be opened; GetErrorString says which.
-    virtual bool OpenDevice(const QString &name);
+    [[nodiscard]] virtual bool OpenDevice(const QString &name);
 
     // The text of the last failure to open or close, empty when there was none.
     virtual QString GetErrorString() const;
@@ -21,25 +21,25 @@ public:
     virtual ~BaseDevice();
 
     // Closes the file; true when none is open. On false the descriptor is left as it was.
-    bool CloseDevice();
+    [[nodiscard]] bool CloseDevice();
 
     // The open file's descriptor, -1 while closed. It stays this object's to close.
     int Descriptor() const { return m_fd; }
 
     // Writes len bytes and returns len; 0 at once for a len below 1. It does not give up: as long
     // as the device takes nothing, or is not open, it does not return.
-    int WriteBytes(const char *data, int len);
+    [[nodiscard]] int WriteBytes(const char *data, int len);
 
     // Writes the text in UTF-8, as WriteBytes does. True when as many bytes were written as the
     // text has characters, so a text outside ASCII gives false although all of it is written.
-    bool WriteString(const QString &text);
+    [[nodiscard]] bool WriteString(const QString &text);
 
     // Reads len bytes into buf and returns len; 0 at once for a len below 1. It does not give up:
     // as long as the device gives nothing, the end of a file included, it does not return.
-    int ReadBytes(char *buf, int len);
+    [[nodiscard]] int ReadBytes(char *buf, int len);
 
     // Reads as ReadBytes does; true when len bytes were read, so false for a negative len.
-    bool ReadExact(char *buf, int len);
+    [[nodiscard]] bool ReadExact(char *buf, int len);
 
 private:
     Q_DISABLE_COPY(BaseDevice)

@@ -51,6 +51,7 @@ bool storeMode(const DisplayMode &mode, QString &error)
     if (!run(filled(QStringLiteral("fw_setenv display %1x%2@%3"), mode), output, error))
         return false;
     const WaitCursor waiting;
+    // Not checked: the mode is stored by then. A cast to void does not satisfy the C library.
     const int ignored = std::system("sync");
     Q_UNUSED(ignored)
     return true;

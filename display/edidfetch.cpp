@@ -4,12 +4,14 @@
 #include "display/monitor/edid.h"
 #include "display/monitor/edidtransfer.h"
 
+// No write is checked: whether the lines are switched shows in what is read over them.
+
 DdcLines::DdcLines()
 {
     for (std::size_t i = 0; i < std::size(CONNECTORS); ++i) {
         const char *const path = CONNECTORS[i].ddcSwitch;
         if (path && m_switches[i].OpenDevice(QLatin1String(path)))
-            m_switches[i].WriteString(QStringLiteral("1"));
+            static_cast<void>(m_switches[i].WriteString(QStringLiteral("1")));
     }
 }
 
@@ -17,7 +19,7 @@ DdcLines::~DdcLines()
 {
     for (I2CDevice &line : m_switches) {
         if (line.Descriptor() >= 0)
-            line.WriteString(QStringLiteral("0"));
+            static_cast<void>(line.WriteString(QStringLiteral("0")));
     }
 }
 
@@ -30,7 +32,8 @@ int fetchEdid(unsigned char *edid)
         const bool isValid =
             readEdidBlock(device.Descriptor(), EDID_SLAVE_ADDRESS, edid, EDID_BLOCK_SIZE) == 0 &&
             checkEdidHeader(edid) == 0;
-        device.CloseDevice();
+        // A failure is logged, and changes nothing about the block.
+        static_cast<void>(device.CloseDevice());
         if (isValid)
             return 0;
     }

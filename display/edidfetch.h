@@ -22,4 +22,4 @@ private:
 
 // Reads the block, 128 bytes, of the first monitor in CONNECTORS that gives a usable one. 0, or -1
 // when none does; edid then holds what the last attempt left there.
-int fetchEdid(unsigned char *edid);
+[[nodiscard]] int fetchEdid(unsigned char *edid);

@@ -46,7 +46,8 @@ void FbDevice::ReleaseInstance()
 
 FbDevice::~FbDevice()
 {
-    CloseDevice();
+    // Nobody is left to be told; the log is.
+    static_cast<void>(CloseDevice());
 }
 
 bool FbDevice::OpenDevice(const QString &name)
@@ -121,11 +122,12 @@ ScreenGamma::ScreenGamma(float gamma)
 {
     FbDevice *const framebuffer = FbDevice::Instance();
     // Not checked: without an open device the next step fails.
-    framebuffer->OpenDevice(FbDevice::DEV_NAME);
+    static_cast<void>(framebuffer->OpenDevice(FbDevice::DEV_NAME));
     m_isSet = framebuffer->SetGamma(gamma);
 }
 
 ScreenGamma::~ScreenGamma()
 {
-    FbDevice::Instance()->CloseDevice();
+    // Logged when it fails, and the curve is set all the same.
+    static_cast<void>(FbDevice::Instance()->CloseDevice());
 }

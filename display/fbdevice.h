@@ -18,18 +18,18 @@ public:
     static void ReleaseInstance();
 
     // Opens the file for reading and writing. True at once when a file is open already.
-    bool OpenDevice(const QString &name);
+    [[nodiscard]] bool OpenDevice(const QString &name);
 
     // Closes the file; true when none is open. On false it counts as open still.
-    bool CloseDevice();
+    [[nodiscard]] bool CloseDevice();
 
     // Gives the driver the curve for a gamma, any float. False when the driver does not take it
     // or no file is open.
-    bool SetGamma(float gamma);
+    [[nodiscard]] bool SetGamma(float gamma);
 
     // Writes the driver's variable screen information to the debug log. False when the driver
     // does not give it or no file is open.
-    bool GetVarScreenInfo();
+    [[nodiscard]] bool GetVarScreenInfo();
 
 private:
     FbDevice() = default;
@@ -52,7 +52,7 @@ public:
     Q_DISABLE_COPY(ScreenGamma)
 
     // False when the framebuffer has not taken the curve; the log then says why.
-    bool IsSet() const { return m_isSet; }
+    [[nodiscard]] bool IsSet() const { return m_isSet; }
 
 private:
     bool m_isSet = false;

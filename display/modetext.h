@@ -6,7 +6,7 @@
 
 #include <QStringList>
 
-enum class ModeTextResult {
+enum class [[nodiscard]] ModeTextResult{
     Read,      // the deciding number is there
     LastIsBad, // width and height were reached, the deciding number is malformed
     NoWidth,   // no x, or no number before it

@@ -23,7 +23,7 @@ public:
     // Lets the user set the clocks of the system and of the hardware, and sets them. What came of
     // the script that sets them, or nothing after Cancel; when it failed, the system's clock may be
     // set all the same.
-    static std::optional<ScriptResult> Run(QWidget *parent);
+    [[nodiscard]] static std::optional<ScriptResult> Run(QWidget *parent);
 
     explicit DialogClock(QWidget *parent);
     ~DialogClock() override;

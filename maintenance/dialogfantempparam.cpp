@@ -38,7 +38,8 @@ bool DialogFanTempParam::Run(QWidget *parent)
     dialog.GetThresholds(lower, upper);
     conf.SetValue(LOWER_KEY, QString::number(lower));
     conf.SetValue(UPPER_KEY, QString::number(upper));
-    conf.SaveConf();
+    // The user is told the same when it fails: the log has the reason.
+    static_cast<void>(conf.SaveConf());
     return true;
 }
 

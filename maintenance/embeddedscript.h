@@ -6,7 +6,7 @@
 // Where the clock's script is copied to.
 const QString CLOCK_SCRIPT_COPY = QStringLiteral("/tmp/calclock.sh");
 
-enum class ScriptResult {
+enum class [[nodiscard]] ScriptResult{
     CopyFailed, // nothing was run
     RunFailed,  // did not start, or did not end with status 0
     Done,

@@ -20,17 +20,18 @@ struct T_NativeTiming
 };
 
 // Whether edid is a usable block: 0 if its header and version are, -1 if not or if edid is null.
-int checkEdidHeader(const unsigned char *edid);
+[[nodiscard]] int checkEdidHeader(const unsigned char *edid);
 
 // The first detailed timing with a pixel clock and with non-zero totals, which is the preferred
 // one under EDID 1.3. The header is not looked at. 0, or -1 when there is none; out then keeps
 // what it held. The width or the height can be 0 where the blanking is not.
-int getNativeTiming(const unsigned char *edid, T_NativeTiming &out);
+[[nodiscard]] int getNativeTiming(const unsigned char *edid, T_NativeTiming &out);
 
 // The rates of the first range limits descriptor, in kHz and Hz. 0, or -1 when edid is null or not
 // a usable block or has no such descriptor; all four are 0 then.
-int getRangeLimits(const unsigned char *edid, unsigned &minHorizontalKHz,
-                   unsigned &maxHorizontalKHz, unsigned &minVerticalHz, unsigned &maxVerticalHz);
+[[nodiscard]] int getRangeLimits(const unsigned char *edid, unsigned &minHorizontalKHz,
+                                 unsigned &maxHorizontalKHz, unsigned &minVerticalHz,
+                                 unsigned &maxVerticalHz);
 
 // The whole block for a human reader, or "Not a valid EDID" when edid is null or not usable. Each
 // line ends in a line feed. Texts are the monitor's own bytes, whatever their encoding.

@@ -10,4 +10,5 @@ constexpr unsigned short EDID_SLAVE_ADDRESS = 0x50;
 // (/dev/i2c-N). A failed transfer is tried again at once, three attempts in all. 0, or -1 when none
 // succeeded; errno is that of the last attempt if the adapter gave one, and buf may hold part of a
 // transfer. Blocks for as long as the adapter takes.
-int readEdidBlock(int fd, unsigned short slaveAddress, unsigned char *buf, unsigned short len);
+[[nodiscard]] int readEdidBlock(int fd, unsigned short slaveAddress, unsigned char *buf,
+                                unsigned short len);

@@ -26,20 +26,20 @@ public:
 
     // Reads the file in place of any earlier content. False: it does not exist, cannot be opened or
     // cannot be read to its end, and there is no content.
-    bool LoadConf();
+    [[nodiscard]] bool LoadConf();
 
     // Brings the values into their lines, those of new keys into new lines at the end, and
     // rewrites the file. False: it does not exist (it is never created) or cannot be opened. A
     // failure while writing is not detected.
-    bool SaveConf();
+    [[nodiscard]] bool SaveConf();
 
     // Reads the lines of the file, without the empty ones at its end. False as LoadConf(), lines
     // stay as they are.
-    bool loadToStringList(QStringList &lines);
+    [[nodiscard]] bool loadToStringList(QStringList &lines);
 
     // Writes the lines, without a line end after the last one, and has them on the storage before
     // it returns. False as SaveConf().
-    bool saveFromStringList(const QStringList &lines);
+    [[nodiscard]] bool saveFromStringList(const QStringList &lines);
 
     // The value of a key, to read or to change. A missing key is added with an empty value, and so
     // gets into the file with the next SaveConf(). Valid until the next call that adds a key.

@@ -14,4 +14,4 @@ void startCommand(QProcess &process, const QString &command);
 
 // Starts the command on its own, so that it outlives this program. False: it could not be
 // started, or the command holds no word.
-bool startDetachedCommand(const QString &command);
+[[nodiscard]] bool startDetachedCommand(const QString &command);

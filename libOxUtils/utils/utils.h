@@ -19,26 +19,28 @@ public:
     // error receive what it wrote, untrimmed, also when it ends with a failure; they stay as they
     // are if it does not start or does not end in time, and then it is ended. False: one of
     // these two, a non-zero exit code, or an end by a signal.
-    static bool ExecShellCommand(const QString &command, QString &output, QString &error,
-                                 int startTimeoutMs, int finishTimeoutMs);
+    [[nodiscard]] static bool ExecShellCommand(const QString &command, QString &output,
+                                               QString &error, int startTimeoutMs,
+                                               int finishTimeoutMs);
 
     // Runs two command lines, the standard output of the first being the standard input of the
     // second. output and error are those of the second; both time-outs hold for each of the two.
     // True only if both end normally with exit code 0; otherwise as ExecShellCommand().
-    static bool ExecPipeShellCommand(const QString &firstCommand, const QString &secondCommand,
-                                     QString &output, QString &error, int startTimeoutMs,
-                                     int finishTimeoutMs);
+    [[nodiscard]] static bool ExecPipeShellCommand(const QString &firstCommand,
+                                                   const QString &secondCommand, QString &output,
+                                                   QString &error, int startTimeoutMs,
+                                                   int finishTimeoutMs);
 
     // Runs a script with "sh" in workingDirectory (empty: the current one) and waits for its
     // end, however long that takes; pending events are served every 30 seconds, so callers must
     // tolerate re-entry. What the script wrote goes to the log. False: "sh" did not start within
     // 30 seconds, a non-zero exit code, or an end by a signal.
-    static bool ExecShellFile(const QString &scriptPath, const QStringList &arguments,
-                              const QString &workingDirectory);
+    [[nodiscard]] static bool ExecShellFile(const QString &scriptPath, const QStringList &arguments,
+                                            const QString &workingDirectory);
 
     // Finds where a device node is mounted, by searching the lines of /proc/mounts for devNode (a
     // basic regular expression without blanks). False: not found, mountPoint is unchanged.
-    static bool GetMountPointFromDevNode(QString &mountPoint, const QString &devNode);
+    [[nodiscard]] static bool GetMountPointFromDevNode(QString &mountPoint, const QString &devNode);
 
     // Deletes the plain files of a directory that match nameFilters (none: all) and whose name
     // holds, as its characters 4 to 11, a date "yyyyMMdd" more than days days away from today, in
@@ -55,7 +57,7 @@ public:
     // Takes n units at a time, waiting up to 5 ms for each, and keeps them. True: fewer than n are
     // left. False: (timeoutMs - 1) / 5 + 1 takes succeeded, which is the limit. Without limit and
     // with n = 0 it does not return. The semaphore must not be null.
-    static bool DrainSemaphore(QSemaphore *semaphore, int n, int timeoutMs);
+    [[nodiscard]] static bool DrainSemaphore(QSemaphore *semaphore, int n, int timeoutMs);
 
     // "text [ERRNO: errnum message]" with the system's message for errnum.
     static QString ErrnoString(const QString &text, int errnum);

@@ -24,12 +24,12 @@ public:
     };
 
     // Reads and decodes /etc/orvex/barcode.txt; see DecodeBarcode.
-    static bool ReadBarcode(T_Barcode &barcode);
+    [[nodiscard]] static bool ReadBarcode(T_Barcode &barcode);
 
     // Decodes the barcode file's lines that are not empty. There must be three; the third, of eight
     // characters, is the barcode. false with an empty text and type 0 when they are not of that
     // form; false also, but with text and type set, when the serial number is no number.
-    static bool DecodeBarcode(T_Barcode &barcode, const QStringList &lines);
+    [[nodiscard]] static bool DecodeBarcode(T_Barcode &barcode, const QStringList &lines);
 
     // The capability flags of the record's product type, 0 for a type that has none.
     static void GetTypeFlags(const T_Barcode &barcode, quint32 &flags);
@@ -37,10 +37,10 @@ public:
     // The root file system's version, the first line that is not empty of /etc/orvex/version or,
     // only where that is missing, of /etc/version. false, and version is empty, without such a
     // line.
-    static bool ReadRootfsVersion(QString &version);
+    [[nodiscard]] static bool ReadRootfsVersion(QString &version);
 
     // The root file system's patch level, the last line that is not empty of
     // /etc/orvex/patches_version.txt, which grows by a line a patch. false, and patch is empty,
     // without such a line.
-    static bool ReadRootfsPatch(QString &patch);
+    [[nodiscard]] static bool ReadRootfsPatch(QString &patch);
 };
