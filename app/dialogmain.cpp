@@ -90,10 +90,7 @@ DialogMain::DialogMain(QWidget *parent)
     resize(size().expandedTo(sizeHint()));
 }
 
-DialogMain::~DialogMain()
-{
-    delete ui;
-}
+DialogMain::~DialogMain() = default;
 
 void DialogMain::createMenu()
 {

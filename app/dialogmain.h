@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 class QAction;
 class QMenu;
 class QTimer;
@@ -104,7 +106,7 @@ private:
     // Writes the chosen language's locale into the system-wide profile.
     void selectLanguage();
 
-    Ui_DialogMain *ui;
+    std::unique_ptr<Ui_DialogMain> ui;
     T_Resolution m_curResolution;
     QTimer *m_timer = nullptr;
     float m_gamma = 1.0F;

@@ -27,8 +27,6 @@ QString withReason(const QString &failure, int error)
 
 } // namespace
 
-const QString FbDevice::DEV_NAME = QStringLiteral("/dev/fb0");
-
 FbDevice *FbDevice::s_instance = nullptr;
 
 FbDevice *FbDevice::Instance()

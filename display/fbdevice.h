@@ -9,7 +9,7 @@ class FbDevice
 {
 public:
     // The path of the box's framebuffer.
-    static const QString DEV_NAME;
+    static inline const QString DEV_NAME = QStringLiteral("/dev/fb0");
 
     // The shared device, made on first use.
     static FbDevice *Instance();

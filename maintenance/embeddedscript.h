@@ -4,7 +4,7 @@
 #include <QStringList>
 
 // Where the clock's script is copied to.
-const QString CLOCK_SCRIPT_COPY = QStringLiteral("/tmp/calclock.sh");
+inline const QString CLOCK_SCRIPT_COPY = QStringLiteral("/tmp/calclock.sh");
 
 enum class [[nodiscard]] ScriptResult{
     CopyFailed, // nothing was run
