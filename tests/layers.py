@@ -10,6 +10,7 @@ import sys
 LAYERS = {
     'libOxUtils/': [],
     'display/monitor/': [],
+    'display/edidtool/': ['display/monitor/'],
     'display/': ['display/monitor/', 'libOxUtils/'],
     'maintenance/identity/': ['libOxUtils/'],
     'app/globalvars': ['maintenance/identity/', 'libOxUtils/'],
@@ -34,7 +35,7 @@ def breaches():
             target = place_of(included)
             if target not in (None, place, *LAYERS[place]):
                 yield f'{name}: may not include {included}'
-            if place == 'display/monitor/' and included.startswith('Q'):
+            if place in ('display/monitor/', 'display/edidtool/') and included.startswith('Q'):
                 yield f'{name}: {included} is Qt'
 
 
