@@ -16,7 +16,7 @@
 #include "app/dialogmain.h"
 
 #include "app/errorbox.h"
-#include "app/heldsignals.h"
+#include "app/guards/heldsignals.h"
 #include "app/languages.h"
 #include "app/shellprofile.h"
 #include "app/upgrader.h"

@@ -8,8 +8,8 @@
 // clang-format on
 #include "app/dialogmain.h"
 #include "app/globalvars.h"
-#include "app/keyrepeatguard.h"
-#include "app/modalfocusguard.h"
+#include "app/guards/keyrepeatguard.h"
+#include "app/guards/modalfocusguard.h"
 #include "app/qtsingleapplication.h"
 #include "app/startup.h"
 #include "libOxUtils/utils/log.h"

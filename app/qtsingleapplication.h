@@ -2,7 +2,7 @@
 // An application object of which one per user runs at a time.
 #pragma once
 
-#include "app/instancelock.h"
+#include "app/guards/instancelock.h"
 
 #include <QApplication>
 #include <QLocalServer>

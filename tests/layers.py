@@ -15,8 +15,9 @@ LAYERS = {
     'maintenance/identity/': ['libOxUtils/'],
     'app/globalvars': ['maintenance/identity/', 'libOxUtils/'],
     'maintenance/': ['maintenance/identity/', 'app/globalvars', 'libOxUtils/'],
-    'app/': ['display/', 'display/monitor/', 'maintenance/', 'maintenance/identity/',
-             'app/globalvars', 'libOxUtils/'],
+    'app/guards/': ['libOxUtils/'],
+    'app/': ['app/guards/', 'app/globalvars', 'display/', 'display/monitor/', 'maintenance/',
+             'maintenance/identity/', 'libOxUtils/'],
 }
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 

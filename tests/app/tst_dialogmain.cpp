@@ -2,7 +2,7 @@
 // The main window on the box's own files, devices and recorded commands: runs inside the simulated
 // box only.
 #include "app/dialogmain.h"
-#include "app/modalfocusguard.h"
+#include "app/guards/modalfocusguard.h"
 #include "display/dialogconfirm.h"
 #include "tests/support/box.h"
 #include "tests/support/edidblock.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/heldsignals.h"
+#include "app/guards/heldsignals.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/keyrepeatguard.h"
+#include "app/guards/keyrepeatguard.h"
 
 #include <QtTest>
 

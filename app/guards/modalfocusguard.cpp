@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/modalfocusguard.h"
+#include "app/guards/modalfocusguard.h"
 
 #include <QGuiApplication>
 #include <QWindow>

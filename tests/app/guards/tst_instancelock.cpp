@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/instancelock.h"
+#include "app/guards/instancelock.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
