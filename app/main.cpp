@@ -8,6 +8,7 @@
 // clang-format on
 #include "app/dialogmain.h"
 #include "app/globalvars.h"
+#include "app/guards/answeredguard.h"
 #include "app/guards/keyrepeatguard.h"
 #include "app/guards/modalfocusguard.h"
 #include "app/qtsingleapplication.h"
@@ -62,6 +63,8 @@ int main(int argc, char *argv[])
     app.installNativeEventFilter(&focusGuard);
     KeyRepeatGuard repeatGuard;
     app.installEventFilter(&repeatGuard);
+    AnsweredGuard answeredGuard;
+    app.installEventFilter(&answeredGuard);
 
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/moniconf.png")));
     DialogMain dialog;

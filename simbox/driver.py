@@ -6,9 +6,11 @@ On the emulated board the same tests run with more patience, except those that n
 """
 
 import collections
+import contextlib
 import os
 import re
 import shutil
+import signal
 import subprocess
 import time
 import unittest
@@ -63,6 +65,15 @@ class Tool:
         found = [Message(*line.split('|', 5)) for line in lines if line.count('|') >= 5]
         return [message for message in found if text in message.text and
                 all(getattr(message, name) == value for name, value in fields.items())]
+
+    @contextlib.contextmanager
+    def busy(self):
+        """Input piles up meanwhile; the tool gets it in one go."""
+        self.process.send_signal(signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            self.process.send_signal(signal.SIGCONT)
 
     def wait_for_end(self):
         """The exit status, once it has ended by itself."""

@@ -5,13 +5,14 @@
 import unittest
 
 import driver
-from driver import calls, click, keys, wait_for, wait_for_window
+from driver import calls, choose, click, click_row, keys, wait_for, wait_for_window
 
 
 class Maintenance(unittest.TestCase):
     def setUp(self):
         (driver.RUN / 'calls').write_text('')
-        self.addCleanup(driver.Tool().stop)
+        self.tool = driver.Tool()
+        self.addCleanup(self.tool.stop)
         self.window = wait_for_window('Display Settings')
 
     def test_held_keys(self):
@@ -30,6 +31,28 @@ class Maintenance(unittest.TestCase):
                 wait_for_window('Setting Date Time', patience=5)
                 keys('Escape')
                 wait_for_window('Display Settings')
+
+    def test_first_answer(self):
+        """Only the first of the answers that pile up while the tool is busy is taken."""
+        for opening, title, button, next_button in (
+                (lambda: choose(self.window, 'Fan Setting'), 'Parameter Input Dialog', 40, 130),
+                (lambda: choose(self.window, 'Factory Reset'), 'Query', 40, 130),
+                (lambda: keys('F10'), 'Dialog', 40, 130),
+                (lambda: click(self.window, *driver.APPLY), 'Information', 270, 90)):
+            with self.subTest(title):
+                click_row(self.window, 0)
+                opening()
+                dialog = wait_for_window(title)
+                _, _, width, height = driver.place(dialog)
+                with self.tool.busy():
+                    for from_right in (button, next_button):
+                        click(dialog, width - from_right, height - 20)
+                wait_for_window('Display Settings')
+        with self.tool.busy():
+            keys('Escape', 'F12')
+        self.assertEqual(self.tool.wait_for_end(), 0)
+        self.assertEqual([call for call in calls() if call.startswith(('gamma', 'up', 'fw_set'))],
+                         [])
 
 
 if __name__ == '__main__':
