@@ -2,6 +2,7 @@
 #include "app/mouselabel.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 
@@ -25,9 +26,10 @@ bool MouseLabel::event(QEvent *event)
     }
 }
 
-void MouseLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/)
+void MouseLabel::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    emit mouseDoubleClicked();
+    if (event->button() == Qt::LeftButton)
+        emit mouseDoubleClicked();
 }
 
 void MouseLabel::keyPressEvent(QKeyEvent *event)

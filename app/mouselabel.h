@@ -3,8 +3,8 @@
 
 #include <QLabel>
 
-// A label that reports double clicks and turns blue while the pointer is over it. With the focus,
-// the space bar does the same as a double click.
+// A label that reports the left button's double clicks and turns blue while the pointer is over it.
+// With the focus, the space bar does the same as a double click.
 class MouseLabel : public QLabel
 {
     Q_OBJECT

@@ -348,7 +348,9 @@ private slots:
         QTRY_COMPARE(label->styleSheet(), "color: blue"_s);
         QCursor::setPos(m_dialog->mapToGlobal(QPoint(3, 3)));
         QTRY_COMPARE(label->styleSheet(), "color: black;"_s);
-        QTest::mouseClick(label, Qt::LeftButton); // no double one: nothing opens
+        // Nothing opens for a single click, nor for another button.
+        QTest::mouseClick(label, Qt::LeftButton);
+        QTest::mouseDClick(label, Qt::MiddleButton);
         const ModalAnswers modal({[](QWidget *clock) { clock->close(); }});
         QTest::keyClick(label, Qt::Key_Space);
     }

@@ -180,6 +180,7 @@ private slots:
     void clock()
     {
         const QString hardwareClock = "/usr/local/bin/hwclock"_s;
+        const QByteArray sound = read(hardwareClock);
         const auto edit = [](QWidget *dialog) {
             auto *editor = dialog->findChild<QDateTimeEdit *>();
             QVERIFY(editor->calendarPopup() && editor->alignment() == Qt::AlignCenter);
@@ -204,6 +205,33 @@ private slots:
              "void DialogMain::lblDateTime_mouseDoubleClicked() Copying calclock.sh failed."_s);
         sets(Button::Ok, hardwareClock, date, "critical|Error|Setting date time failed.|*OK"_s,
              NOTHING);
+        write(hardwareClock, sound);
+    }
+
+    void typedClock()
+    {
+        // Behind a > all is selected first.
+        const QString rows[][2] = {
+            {"2027-03-15 8:30:59"_s, "2027-03-15 08:30:59"_s}, // as it is shown
+            {">2027-03-15 08:30:59"_s, "2027-03-15 08:30:59"_s},
+            {"20270315083059"_s, "2027-03-15 08:30:59"_s},
+            {">2027-2-3 4:5:6"_s, "2027-02-03 04:05:06"_s},
+            {"2027/2/3 4.5.6"_s, "2027-02-03 04:05:06"_s},
+            {"2027--15"_s, "2027-01-15 23:10:20"_s}, // the month stays
+        };
+        for (const auto &[typed, set] : rows) {
+            setClock(QDateTime(QDate(2026, 1, 31), QTime(23, 10, 20)));
+            open("clock"_s, {[text = typed](QWidget *dialog) {
+                     for (const QChar key : text) {
+                         if (key == u'>')
+                             QTest::keyClick(dialog->focusWidget(), Qt::Key_A, Qt::ControlModifier);
+                         else
+                             QTest::keyClick(dialog->focusWidget(), key.toLatin1());
+                     }
+                     QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+                 }});
+            QCOMPARE(calls(), "date -s %1\nhwclock -w\n"_s.arg(set));
+        }
     }
 
     void fan()

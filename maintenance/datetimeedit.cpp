@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "maintenance/datetimeedit.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+void DateTimeEdit::keyPressEvent(QKeyEvent *event)
+{
+    const QString text = event->text();
+    const QChar typed = text.isEmpty() ? QChar() : text.at(0);
+    if (typed.isDigit())
+        typeDigit(event);
+    else if (typed.isPrint() && !typed.isLetter())
+        typeSeparator();
+    else
+        QDateTimeEdit::keyPressEvent(event);
+}
+
+void DateTimeEdit::typeDigit(QKeyEvent *event)
+{
+    const int section = currentSectionIndex();
+    const QString before = lineEdit()->text();
+    const int place =
+        lineEdit()->hasSelectedText() ? lineEdit()->selectionStart() : lineEdit()->cursorPosition();
+    QDateTimeEdit::keyPressEvent(event);
+    const bool isRefused = lineEdit()->text() == before && currentSectionIndex() == section;
+    if (isRefused && place < before.size() && before.at(place).isDigit()) {
+        lineEdit()->setCursorPosition(place);
+        setSelectedSection(currentSection());
+        QDateTimeEdit::keyPressEvent(event);
+    }
+    if (currentSectionIndex() != section) {
+        m_steppedText = lineEdit()->text();
+        m_steppedStart = lineEdit()->selectionStart();
+    }
+}
+
+void DateTimeEdit::typeSeparator()
+{
+    const bool hasStepped =
+        lineEdit()->text() == m_steppedText && lineEdit()->selectionStart() == m_steppedStart;
+    m_steppedText.clear();
+    if (!hasStepped)
+        setSelectedSection(sectionAt(currentSectionIndex() + 1));
+}
