@@ -83,10 +83,10 @@ void DialogPreference::LoadPreference()
 {
     QSettings settings(settingsFile(), QSettings::IniFormat);
     settings.beginGroup(QStringLiteral("Preference"));
-    if (settings.value(QStringLiteral("AutoStartApp")).toInt() != STARTS_STANDARD)
-        ui->m_rdoVxotp->setChecked(true);
-    else
-        ui->m_rdoVexastd->setChecked(true);
+    const bool isOtp = settings.value(QStringLiteral("AutoStartApp")).toInt() != STARTS_STANDARD;
+    QRadioButton *const chosen = isOtp ? ui->m_rdoVxotp : ui->m_rdoVexastd;
+    chosen->setChecked(true);
+    chosen->setFocus();
     settings.endGroup();
 }
 

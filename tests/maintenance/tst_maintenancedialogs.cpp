@@ -289,7 +289,9 @@ private slots:
             const bool isDone = isRun && obstacle.isEmpty();
             const int other = 1 - chosen;
             const auto click = [=](QWidget *dialog) {
-                dialog->findChildren<QRadioButton *>()[other]->click();
+                const auto choices = dialog->findChildren<QRadioButton *>();
+                QCOMPARE(dialog->focusWidget(), choices[chosen]);
+                choices[other]->click();
             };
             const QString says = "Preference|Auto Start Application|%1|*OK|Cancel"_s.arg(
                 chosen ? "vexastd|*vxotp"_s : "*vexastd|vxotp"_s);
