@@ -45,10 +45,7 @@ DialogConfirm::DialogConfirm(QWidget *parent)
         ui->label_2->setPixmap(QPixmap(QStringLiteral(":/image/question@2x.png")));
     }
     showSecondsLeft();
-    if (sizeHint().width() * devicePixelRatioF() > WIDEST)
-        ui->m_lblQuestion->setWordWrap(true);
-    // The window keeps its size when the number gets shorter.
-    ui->m_lblQuestion->setMinimumWidth(ui->m_lblQuestion->sizeHint().width());
+    fitSmallestMode();
     connect(ui->m_btnRestorePreConfig, &QPushButton::clicked, this,
             &DialogConfirm::btnRestorePreConfig_clicked);
     connect(ui->m_btnKeepThisConfig, &QPushButton::clicked, this,
@@ -59,6 +56,25 @@ DialogConfirm::DialogConfirm(QWidget *parent)
 }
 
 DialogConfirm::~DialogConfirm() = default;
+
+void DialogConfirm::fitSmallestMode()
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int widest =
+        static_cast<int>(WIDEST / devicePixelRatioF()) - margins.left() - margins.right();
+    if (ui->horizontalLayout_2->sizeHint().width() > widest)
+        ui->horizontalLayout_2->setDirection(QBoxLayout::TopToBottom);
+    const int widestText = widest - ui->label_2->minimumWidth() - ui->horizontalLayout->spacing();
+    for (QLabel *text : {ui->label, ui->m_lblQuestion}) {
+        QSize size = text->sizeHint();
+        if (size.width() > widestText) {
+            text->setWordWrap(true);
+            size = {widestText, text->heightForWidth(widestText)};
+        }
+        // The window keeps its size when the number gets shorter.
+        text->setFixedSize(size);
+    }
+}
 
 void DialogConfirm::showEvent(QShowEvent *event)
 {

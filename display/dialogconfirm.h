@@ -42,6 +42,7 @@ private slots:
 
 private:
     void showSecondsLeft();
+    void fitSmallestMode();
     void moveButtonsFromPointer();
 
     std::unique_ptr<Ui::DialogConfirm> ui;

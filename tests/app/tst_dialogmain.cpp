@@ -149,6 +149,20 @@ Action answerQuestion(Answer answer, const QString &before)
     };
 }
 
+// Takes half as many letters again as English.
+class WordyLanguage : public QTranslator
+{
+public:
+    WordyLanguage() { QCoreApplication::installTranslator(this); }
+
+    QString translate(const char * /*context*/, const char *text, const char * /*comment*/,
+                      int /*number*/) const override
+    {
+        const QString words = QString::fromUtf8(text);
+        return words + words.left(words.size() / 2);
+    }
+};
+
 QColor frameOf(const QListWidget *list)
 {
     return list->viewport()->grab().toImage().pixelColor(0, list->viewport()->height() / 2);
@@ -516,6 +530,27 @@ private slots:
         }
     }
 
+    // Runs at other densities as well, see tests/CMakeLists.txt.
+    void questionFitsSmallestMode()
+    {
+        for (const bool isWordy : {false, true}) {
+            const auto language = isWordy ? std::make_unique<WordyLanguage>() : nullptr;
+            DialogConfirm question(nullptr);
+            question.show();
+            QVERIFY(QTest::qWaitForWindowActive(&question));
+            // The frame takes what is left of 800 x 600.
+            QVERIFY(question.width() <= 784 && question.height() <= 560);
+            for (const auto *button : question.findChildren<QPushButton *>())
+                QVERIFY(button->width() >= button->sizeHint().width());
+            for (const auto *label : question.findChildren<QLabel *>()) {
+                const int flags = label->wordWrap() ? Qt::TextWordWrap : 0;
+                const QSize text =
+                    label->fontMetrics().boundingRect(label->rect(), flags, label->text()).size();
+                QVERIFY(label->size().expandedTo(text) == label->size());
+            }
+        }
+    }
+
     // Modes applied one after the other, the last one by OK. The screen knows no 75 Hz, which is
     // never said; what stores a mode may take a while, but not for ever.
     void modes()
@@ -561,6 +596,7 @@ private slots:
         QFETCH(int, row);
         const Rejection &rejection = REJECTIONS[row];
         QProcess::execute("/usr/bin/xrandr"_s, {"-s"_s, "1920x1080"_s, "-r"_s, "60"_s});
+        QTRY_COMPARE(QGuiApplication::primaryScreen()->size(), QSize(1920, 1080));
         write("/run/simbox/hdmi"_s, rejection.monitor);
         store(QLatin1String(rejection.stored));
         const QString error = QLatin1String(rejection.error);

@@ -15,7 +15,21 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include <memory>
+#include <type_traits>
+
+// Takes half as many letters again as English.
+class WordyLanguage : public QTranslator
+{
+public:
+    QString translate(const char * /*context*/, const char *text, const char * /*comment*/,
+                      int /*number*/) const override
+    {
+        const QString words = QString::fromUtf8(text);
+        return words + words.left(words.size() / 2);
+    }
+
+    bool isEmpty() const override { return false; }
+};
 
 class TestWindows : public QObject
 {
@@ -27,17 +41,18 @@ class TestWindows : public QObject
         Window window(nullptr);
         window.show();
         for (const auto *part : window.template findChildren<QWidget *>()) {
-            const QSize needed = part->heightForWidth(part->width()) < 0
-                                     ? part->minimumSizeHint()
-                                     : QSize(0, part->heightForWidth(part->width()));
+            const int height = part->heightForWidth(part->width());
+            const QSize needed = height < 0 ? part->minimumSizeHint() : QSize(0, height);
             const QString what = window.windowTitle() + u' ' + part->objectName() + u' ' +
                                  part->property("text").toString();
             if (part->isVisible() && !qobject_cast<QAbstractSpinBox *>(part->parentWidget()))
                 QVERIFY2(needed.expandedTo(part->size()) == part->size(), qPrintable(what));
         }
-        // On the smallest screen, less the window's frame.
-        QVERIFY2(window.width() <= 800 - 16 && window.height() <= 600 - 40,
-                 qPrintable(window.windowTitle()));
+        // The question is the window that comes when the smallest mode may be on the screen: 800 x
+        // 600, less the frame.
+        if constexpr (std::is_same_v<Window, DialogConfirm>)
+            QVERIFY2(window.width() <= 784 && window.height() <= 560,
+                     qPrintable(window.windowTitle()));
     }
 
 private slots:
@@ -52,21 +67,26 @@ private slots:
     void textsFit_data()
     {
         QTest::addColumn<QString>("language");
+        QTest::newRow("a wordy language") << QString();
         const QDir home(QStringLiteral("/opt/moniconf"));
+        QVERIFY(home.exists(QStringLiteral("moniconf_zh_CN.qm")));
         for (const QString &file : home.entryList({QStringLiteral("moniconf_*.qm")}))
             QTest::newRow(qPrintable(file)) << file.section(u'_', 1).section(u'.', 0, 0);
-        QVERIFY(home.exists(QStringLiteral("moniconf_zh_CN.qm")));
     }
 
     void textsFit()
     {
         QFETCH(QString, language);
-        QTranslator toolkit;
+        WordyLanguage wordy;
         QTranslator own;
-        QVERIFY(toolkit.load(QStringLiteral("qt_%1.qm").arg(language),
-                             qtversions::toolkitTranslationsPath()));
-        QVERIFY(own.load(QStringLiteral("/opt/moniconf/moniconf_%1.qm").arg(language)) ||
-                language == QLatin1String("en_US"));
+        QTranslator toolkit;
+        const QString ownFile = QStringLiteral("/opt/moniconf/moniconf_%1.qm").arg(language);
+        const QString toolkitFile = QStringLiteral("qt_%1.qm").arg(language);
+        if (language.isEmpty())
+            QCoreApplication::installTranslator(&wordy);
+        else
+            QVERIFY(own.load(ownFile) &&
+                    toolkit.load(toolkitFile, qtversions::toolkitTranslationsPath()));
         QCoreApplication::installTranslator(&toolkit);
         QCoreApplication::installTranslator(&own);
         hasRoomForItsTexts<DialogMain>();
