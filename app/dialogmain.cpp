@@ -19,6 +19,7 @@
 #include "app/guards/heldsignals.h"
 #include "app/languages.h"
 #include "app/shellprofile.h"
+#include "app/shortenedmessage.h"
 #include "app/upgrader.h"
 #include "display/boxmode.h"
 #include "display/dialogconfirm.h"
@@ -133,7 +134,10 @@ bool DialogMain::hasOtpApplication() const
 
 void DialogMain::showError(const QString &text)
 {
-    ErrorBox(*this, tr("Error"), text).exec();
+    ErrorBox box(*this, tr("Error"), text);
+    box.exec();
+    if (box.text() != text)
+        oxlog::critical(OX_LOG_HERE, oxlog::quoted(loggableMessage(text)));
 }
 
 void DialogMain::keyPressEvent(QKeyEvent *event)

@@ -3,8 +3,9 @@
 
 #include <QMessageBox>
 
-// A modal box with an error's text, cut to what a screen can take, and one OK button. It opens over
-// its parent, or in the middle of the screen while the parent is not shown yet.
+// A modal box with an error's text and one OK button. A text that the screen cannot take is shown
+// shortened: after exec(), text() is then another than the one given. It opens over its parent, or
+// in the middle of the screen while the parent is not shown yet.
 class ErrorBox : public QMessageBox
 {
     Q_OBJECT
@@ -14,4 +15,7 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+
+private:
+    void fitScreen();
 };

@@ -104,13 +104,18 @@ Action confirmError(const QString &text)
     return [=](QWidget *widget) {
         const auto *box = qobject_cast<QMessageBox *>(widget);
         QVERIFY(box && qobject_cast<DialogMain *>(box->parentWidget()));
-        QCOMPARE(box->windowTitle() + u':' + box->text(), "Error:"_s + text);
+        // Without the places to break long words.
+        const QString shown = box->text().remove(QChar(0x200B));
+        QCOMPARE(box->windowTitle() + u':' + shown, "Error:"_s + text);
+        const auto *label = box->findChild<QLabel *>("qt_msgbox_label"_s);
+        QVERIFY(label->width() >= label->minimumSizeHint().width());
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        QVERIFY(box->frameGeometry().height() < screen.height());
         QVERIFY(box->icon() == QMessageBox::Critical && box->textFormat() == Qt::PlainText);
         QVERIFY(box->standardButtons() == QMessageBox::Ok);
-        const QPoint middle = QGuiApplication::primaryScreen()->geometry().center();
         // The window manager may move it first, for its frame.
         QVERIFY(box->parentWidget()->isVisible() || QTest::qWaitFor([&] {
-                    return (box->geometry().center() - middle).manhattanLength() < 5;
+                    return (box->geometry().center() - screen.center()).manhattanLength() < 5;
                 }));
         pressButton(widget, QDialogButtonBox::Ok);
     };
@@ -556,24 +561,36 @@ private slots:
     void modes()
     {
         open();
-        const QString there = "xrandr -s 1024x768 -r 60\n"_s;
-        QVERIFY(offers("1024 x 768"_s));
+        const QString there = "xrandr -s 800x600 -r 60\n"_s;
+        QVERIFY(offers("800 x 600"_s));
         QVERIFY(!offers("1360 x 768"_s));
-        QVERIFY(offers("1024 x 768"_s));
+        QVERIFY(offers("800 x 600"_s));
         for (Answer answer : {Restore, Escape, Wait}) {
             const ModalAnswers modal({answerQuestion(answer, there)});
             press("m_btnApply");
             QCOMPARE(newCalls(), "xrandr -s 1360x768 -r 75\n"_s);
             QVERIFY(canApply());
         }
-        const QString stored = "fw_setenv display 1024x768@60\n"_s;
-        for (const char *script : {"echo no >&2; exit 1", "exec sleep 20"}) {
-            const auto setenv = replaced("fw_setenv", script);
-            const QString words = QByteArray(script).startsWith("echo") ? "no"_s : QString();
-            const ModalAnswers modal({answerQuestion(Keep, there), confirmError(words)});
+        const QString stored = "fw_setenv display 800x600@60\n"_s;
+        const QString word(1000, u'0');
+        const QString wide(999, u'\u65e0');
+        const QString failures[][3] = {
+            // script, what the box says, what the log says
+            {"echo no >&2; exit 1"_s, "no\n"_s, ""_s},
+            {"seq 11 >&2; exit 1"_s, "1\n2\n3\n4\n5\n\u2026\n8\n9\n10\n11"_s,
+             "C \"1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n\""_s},
+            {"printf %01000d 0 >&2; exit 1"_s, word, "C \""_s + word + u'"'},
+            {"printf %0999d 0 | sed s/0/\u65e0/g >&2; exit 1"_s, wide, ""_s},
+            {"exec sleep 20"_s, ""_s, ""_s},
+        };
+        for (const auto &[script, says, logs] : failures) {
+            const auto setenv = replaced("fw_setenv", script.toUtf8());
+            const LogCapture log;
+            const ModalAnswers modal({answerQuestion(Keep, there), confirmError(says)});
             press("m_btnApply");
             QCOMPARE(newCalls(), stored);
             QVERIFY(canApply());
+            QCOMPARE(log.texts("dialogmain"_s).filter("C "_s).join(u'|'), logs);
         }
         {
             const auto setenv = replaced("fw_setenv", "sleep 2");
