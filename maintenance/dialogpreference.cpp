@@ -97,4 +97,8 @@ void DialogPreference::SavePreference()
     settings.setValue(QStringLiteral("AutoStartApp"),
                       ui->m_rdoVexastd->isChecked() ? STARTS_STANDARD : STARTS_OTP);
     settings.endGroup();
+    // Written here and not by the destructor, which tells nobody when it fails.
+    settings.sync();
+    if (settings.status() == QSettings::AccessError)
+        oxlog::critical(OX_LOG_HERE, QStringLiteral("Writing %1 failed.").arg(settingsFile()));
 }

@@ -311,6 +311,13 @@ private slots:
         changes("AutoStartApp=1\n", 0, Button::Cancel, NOTHING);
         changes(set + "1\n", 1, Button::Ok, autostart.filePath(both[0]));
         changes(set + "1\n", 1, Button::Ok, BOOT_SCRIPT);
+
+        // Done, but not remembered.
+        prepare(NOTHING);
+        GlobalVars::APP_PATH = "/proc/"_s;
+        const QString says = "Preference|Auto Start Application|*vexastd|vxotp|*OK|Cancel"_s;
+        QCOMPARE(open("Preference"_s, {answer(says, Button::Ok)}),
+                 "C Writing /proc/ui.ini failed."_s);
     }
 
     void gamma()
