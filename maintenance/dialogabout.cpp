@@ -4,30 +4,28 @@
 #include "app/globalvars.h"
 #include "maintenance/identity/appversion.h"
 #include "maintenance/identity/productbarcode.h"
+#include "maintenance/wrappedtext.h"
 #include "ui_dialogabout.h"
 
 #include <QDate>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QToolTip>
 
 #include <algorithm>
 
 namespace {
 
 // The most characters of a line that are looked at: it may have megabytes.
-constexpr int LONGEST_SHOWN = 1000;
+constexpr int MOST_CHARACTERS = 10000;
 
-// Shows what a file holds, cut to half the screen, so that the window stays on it.
-void showIf(bool isKnown, QLabel *label, const QString &text)
-{
-    label->setVisible(isKnown);
-    if (!isKnown)
-        return;
-    const QScreen *const screen = QGuiApplication::primaryScreen();
-    const int width = screen ? screen->availableSize().width() / 2 : label->maximumWidth();
-    label->setText(
-        label->fontMetrics().elidedText(text.left(LONGEST_SHOWN), Qt::ElideRight, width));
-}
+constexpr int MOST_LINES = 3;
+
+// Pixels of the screen that are left beside a window or a tool tip.
+constexpr int SCREEN_MARGIN = 40;
+
+// The style asks for a pixel more than the form's minimum; a button's text can do without.
+constexpr int SPARED_PIXELS = 1;
 
 // The form's picture is for 96 dots an inch; at this and above, the double-size one is closer.
 constexpr int DENSE_SCREEN_DPI = 144;
@@ -54,6 +52,9 @@ DialogAbout::DialogAbout(QWidget *parent)
     ui->lblCopyright->setText(tr("All rights reserved."));
     ui->m_lblBarcode->setText(tr("Barcode: %1").arg(GlobalVars::ThisProductBarcode.barcode));
 
+    ui->buttonBox->setFixedHeight(std::max(ui->buttonBox->minimumHeight(),
+                                           ui->buttonBox->sizeHint().height() - SPARED_PIXELS));
+
     QString version;
     const bool hasVersion = ProductBarcode::ReadRootfsVersion(version);
     showIf(hasVersion, ui->m_lblRootfsVer, tr("Rootfs Version: %1").arg(version));
@@ -64,3 +65,27 @@ DialogAbout::DialogAbout(QWidget *parent)
 }
 
 DialogAbout::~DialogAbout() = default;
+
+void DialogAbout::showIf(bool isKnown, QLabel *label, const QString &text)
+{
+    label->setVisible(isKnown);
+    if (!isKnown)
+        return;
+    const QScreen *const screen = QGuiApplication::primaryScreen();
+    const QSize room =
+        (screen ? screen->availableSize() : maximumSize()) - QSize(SCREEN_MARGIN, SCREEN_MARGIN);
+    const QMargins margins = layout()->contentsMargins();
+    const int beside = margins.left() + margins.right() + ui->lblLogo->sizeHint().width() +
+                       ui->gridLayout->horizontalSpacing();
+    const QString read = text.left(MOST_CHARACTERS);
+    const QString shown = wrappedText(read, label->font(), room.width() - beside, MOST_LINES);
+    label->setText(shown);
+    if (!shown.endsWith(QChar(0x2026)))
+        return;
+    const QFont font = QToolTip::font();
+    // One that finds no place above or below the pointer comes up under it, and goes at once.
+    const int lines = room.height() / 2 / QFontMetrics(font).lineSpacing();
+    // Marked up, since the toolkit would take what looks like a tag for one.
+    const QString tip = wrappedText(read, font, room.width(), lines);
+    label->setToolTip(QStringLiteral("<p style='white-space:pre'>") + tip.toHtmlEscaped());
+}

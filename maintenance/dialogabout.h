@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class QLabel;
+
 namespace Ui {
 class DialogAbout;
 }
@@ -20,5 +22,9 @@ public:
     ~DialogAbout() override;
 
 private:
+    // Shows what a file holds, in lines that the screen takes; what is too long for them is cut and
+    // stands whole in the tool tip.
+    void showIf(bool isKnown, QLabel *label, const QString &text);
+
     std::unique_ptr<Ui::DialogAbout> ui;
 };

@@ -99,6 +99,7 @@ void DialogPreference::SavePreference()
     settings.endGroup();
     // Written here and not by the destructor, which tells nobody when it fails.
     settings.sync();
+    // A format error is that of the old content, which has been replaced.
     if (settings.status() == QSettings::AccessError)
         oxlog::critical(OX_LOG_HERE, QStringLiteral("Writing %1 failed.").arg(settingsFile()));
 }

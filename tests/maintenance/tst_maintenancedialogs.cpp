@@ -150,11 +150,18 @@ private slots:
 
     void about()
     {
+        installApplicationFont("/usr/share/fonts/ttf/msyh.ttf"_s, 9);
         setClock(QDateTime(QDate(2030, 5, 4), QTime(3, 2, 1)));
         const auto look = [](QWidget *dialog) {
             const auto *logo = dialog->findChild<QLabel *>("lblLogo"_s);
             QVERIFY(!logo->property("pixmap").value<QPixmap>().isNull());
             QVERIFY(dialog->findChild<QLabel *>("lblVersion"_s)->font().bold());
+            QCOMPARE(dialog->size(), QSize(386, 193));
+            QCOMPARE(dialog->findChild<QWidget *>("layoutWidget"_s)->geometry(),
+                     QRect(12, 13, 361, 131));
+            QCOMPARE(dialog->findChild<QWidget *>("buttonBox"_s)->geometry(),
+                     QRect(50, 150, 325, 23));
+            QCOMPARE(dialog->findChild<QPushButton *>()->height(), 23);
         };
         const QString files[] = {"barcode.txt"_s, "version"_s, "../version"_s,
                                  "patches_version.txt"_s};
@@ -174,6 +181,30 @@ private slots:
                 "About...|%1|All rights reserved.|Copyright (C) 2013-2030 Orvex|%2|*OK"_s;
             open("F1"_s, {answer(says.arg(GetAppVersion(), QString::fromLatin1(row[4])), Button::Ok,
                                  look)});
+        }
+
+        // Broken into lines, and cut only where three do not do: then the tool tip has it whole.
+        const std::pair<QString, bool> longLines[] = {
+            {"two words "_s.repeated(20), false},
+            {"<b>"_s + QString(1000, u'x'), true},
+            {"a\u2028b"_s.repeated(300), true},
+        };
+        for (const auto &[line, isCut] : longLines) {
+            write("/etc/orvex/version"_s, line.toUtf8());
+            const auto lookAtLine = [line = line, isCut = isCut](QWidget *dialog) {
+                const auto *label = dialog->findChild<QLabel *>("m_lblRootfsVer"_s);
+                const QString tip = QTextDocumentFragment::fromHtml(label->toolTip()).toPlainText();
+                QString whole = isCut ? tip : label->text();
+                QCOMPARE(whole.remove(u'\n'),
+                         "Rootfs Version: "_s +
+                             QString(line).replace(QChar(0x2028), u' ').trimmed());
+                QCOMPARE(label->text().endsWith(QChar(0x2026)), isCut);
+                QCOMPARE(tip.isEmpty(), !isCut);
+                QVERIFY(label->text().count(u'\n') < 3);
+                QVERIFY(label->width() >= label->sizeHint().width() && dialog->width() < 800);
+                pressButton(dialog, Button::Ok);
+            };
+            open("F1"_s, {lookAtLine});
         }
     }
 
