@@ -3,7 +3,9 @@
 // box only.
 #include "app/dialogmain.h"
 #include "app/guards/modalfocusguard.h"
+#include "app/startup.h"
 #include "display/dialogconfirm.h"
+#include "maintenance/dialogabout.h"
 #include "tests/support/box.h"
 #include "tests/support/edidblock.h"
 #include "tests/support/logcapture.h"
@@ -508,6 +510,24 @@ private slots:
             QTRY_VERIFY2(hasMenu, place);
             QCOMPARE(list()->currentRow(), row);
         }
+    }
+
+    void aboutInBoxFont()
+    {
+        const auto restored =
+            qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+        installApplicationFont("/usr/share/fonts/ttf/msyh.ttf"_s, 9);
+        write("/etc/orvex/version"_s, "2.0.1");
+        write("/etc/orvex/patches_version.txt"_s, "p1");
+        DialogAbout about(nullptr);
+        about.show();
+        QVERIFY(QTest::qWaitForWindowActive(&about));
+        QCOMPARE(about.size(), QSize(386, 193));
+        const auto place = [&](const char *name) {
+            return about.findChild<QWidget *>(QLatin1String(name))->geometry();
+        };
+        QCOMPARE(place("layoutWidget"), QRect(12, 13, 361, 131));
+        QCOMPARE(place("buttonBox"), QRect(50, 150, 325, 23));
     }
 
     void questionLetsGoOfPointer()
