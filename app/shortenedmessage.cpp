@@ -51,7 +51,7 @@ QString shortenedMessage(const QString &message, int mostLines)
 
 QString breakableMessage(const QString &message, int wordLength)
 {
-    constexpr QChar ZERO_WIDTH_SPACE = 0x200B;
+    constexpr QChar ZERO_WIDTH_SPACE = u'\u200B';
     QString broken;
     int length = 0;
     for (const QChar character : message) {
