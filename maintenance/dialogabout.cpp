@@ -24,7 +24,7 @@ constexpr int MOST_LINES = 3;
 // Pixels of the screen that are left beside a window or a tool tip.
 constexpr int SCREEN_MARGIN = 40;
 
-// The style asks for a pixel more than the form's minimum; a button's text can do without.
+// At 96 dots an inch the style asks for a pixel more than the form has; a button can do without.
 constexpr int SPARED_PIXELS = 1;
 
 // The form's picture is for 96 dots an inch; at this and above, the double-size one is closer.
@@ -52,8 +52,9 @@ DialogAbout::DialogAbout(QWidget *parent)
     ui->lblCopyright->setText(tr("All rights reserved."));
     ui->m_lblBarcode->setText(tr("Barcode: %1").arg(GlobalVars::ThisProductBarcode.barcode));
 
-    ui->buttonBox->setFixedHeight(std::max(ui->buttonBox->minimumHeight(),
-                                           ui->buttonBox->sizeHint().height() - SPARED_PIXELS));
+    const int wanted = ui->buttonBox->sizeHint().height();
+    const int least = ui->buttonBox->minimumHeight();
+    ui->buttonBox->setFixedHeight(wanted > least + SPARED_PIXELS ? wanted : least);
 
     QString version;
     const bool hasVersion = ProductBarcode::ReadRootfsVersion(version);
