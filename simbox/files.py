@@ -17,8 +17,8 @@ TERMINAL = f'{APPLICATIONS}/matchbox-terminal.desktop'
 # Writable in the box in place of the machine's own.
 REPLACED = (APPLICATIONS, 'usr/share/fonts', 'usr/lib/locale', 'usr/local/bin')
 # Writable too where a package is installed; the box's /usr/bin then leads to the machine's.
-PACKAGED = ('usr/bin', 'usr/share/doc', 'usr/share/icons', 'usr/share/lintian', 'usr/share/man',
-            'usr/share/metainfo')
+PACKAGED = ('usr/bin', 'usr/libexec', 'usr/share/doc', 'usr/share/icons', 'usr/share/lintian',
+            'usr/share/man', 'usr/share/metainfo')
 MACHINE = '/run/machine'
 DIRECTORIES = ('tmp', 'var/lib', 'var/lock', 'var/cache', 'run/user/0', 'run/simbox',
                'etc/xdg/autostart', 'opt/moniconf')
