@@ -73,7 +73,7 @@ check-package: package-tools
 	desktop-file-validate packaging/moniconf.desktop
 	appstreamcli validate --no-net $(PACKAGES)/moniconf-*/obj-*/packaging/*.metainfo.xml
 	package=$$(ls $(PACKAGES)/moniconf_*_$(firstword $(ARCHITECTURES)).deb) && \
-		simbox/simbox --otp --package "$$package" exec tests/box/test_package.py "$$package"
+		simbox/simbox --otp --package "$$package" exec timeout 240 tests/box/test_package.py "$$package"
 
 # Packages made a second time, elsewhere, are the same to the byte.
 check-reproducible: package
