@@ -4,6 +4,7 @@
 BUILD := build/release
 JOBS := $(shell nproc)
 WERROR := OFF
+PARTS := all
 PACKAGES := build/packages
 SYSROOT := build/sysroot-armhf
 # Those that packages are made for, this machine's first.
@@ -13,6 +14,7 @@ ARCHITECTURES = $(shell dpkg --print-architecture)
 	screenshots lint packages build package package-tools armhf-tools board check-board
 
 # The tool in the simulated box, in a browser page, on a screen small enough to be read there.
+run: PARTS := moniconf moniconf-edid catalogues
 run: build
 	simbox/simbox --program $(BUILD) --hdmi 1280x1024 --mode 1024x768 run
 
@@ -46,7 +48,7 @@ screenshots: packages
 
 build: packages
 	cmake --preset release -DMONICONF_WERROR=$(WERROR)
-	cmake --build --preset release -j $(JOBS)
+	cmake --build --preset release -j $(JOBS) --target $(PARTS)
 
 packages:
 	packaging/install-build-packages packaging/build-packages.txt
