@@ -64,12 +64,12 @@ class Led:
 
 
 class Bus:
-    """An I2C adapter and the monitor on it, if the lines between them are switched on."""
+    """An I2C adapter and the monitor on it; their lines are connected, or switched by an LED."""
 
-    def __init__(self, name, is_connected=lambda: True):
+    def __init__(self, name, led):
         self.name = name
         self.file = RUN / name
-        self.is_connected = is_connected
+        self.led = led
         self.plugged = self.failures = self.block = None
 
     def ioctl(self, request, argument):
@@ -84,7 +84,7 @@ class Bus:
             what = self.file.read_text(encoding='utf-8').strip()
             self.failures, monitor = monitors.split(what)
             self.block = monitors.block(monitor)
-        answers = self.is_connected() and self.block is not None
+        answers = (not self.led or self.led.is_lit()) and self.block is not None
         if answers and self.failures > 0:
             self.failures -= 1
             answers = False
@@ -147,8 +147,7 @@ def serve(size):
     testbed.add_from_string(''.join([*map(NODE.format, nodes), *map(LED.format, leds)]))
     devices = {'/dev/fb0': Framebuffer(size)}
     for name, bus, switch in CONNECTORS:
-        led = switch and Led(name, testbed.get_root_dir() + switch)
-        devices[bus] = Bus(name, led.is_lit) if led else Bus(name)
+        devices[bus] = Bus(name, switch and Led(name, testbed.get_root_dir() + switch))
     for node, device in devices.items():
         handler = UMockdev.IoctlBase()
         handler.connect('handle-ioctl', handle, device)

@@ -37,7 +37,7 @@ def output(*command):
     return subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True).stdout.strip()
 
 
-def wait_for(condition, what, patience=PATIENCE):
+def wait_for(condition, what, patience=PATIENCE, pause=0.03):
     """Waits until the condition gives something true, and gives that."""
     deadline = time.monotonic() + patience
     while True:
@@ -46,7 +46,7 @@ def wait_for(condition, what, patience=PATIENCE):
             return value
         if time.monotonic() > deadline:
             raise AssertionError(f'{what}: not within {patience} s')
-        time.sleep(0.03)
+        time.sleep(pause)
 
 
 class Tool:
@@ -125,10 +125,6 @@ def place(window):
 def keys(*names):
     """Presses keys, such as 'Down' or 'ctrl+e', in the window that has the keyboard."""
     output('xdotool', 'key', '--delay', '30', *names)
-
-
-def type_text(text):
-    output('xdotool', 'type', '--delay', '30', text)
 
 
 def hold(key, seconds=1.5):

@@ -51,8 +51,7 @@ FILES = {
                           f'{RECORD}exec /usr/bin/date -d "$2"\n',
     'run/simbox/calls': '',
 }
-SHOWN = (('etc/profile', 'export LANG'), ('etc/fand.conf', 'temp_'), (TERMINAL, 'NoDisplay'),
-         ('opt/moniconf/ui.ini', ''), ('run/simbox/calls', ''))
+SHOWN = ('etc/profile', 'etc/fand.conf', TERMINAL, 'opt/moniconf/ui.ini', 'run/simbox/calls')
 
 
 def fill(root, mode, barcode, locale):
@@ -108,8 +107,6 @@ def show(root):
           sep='\n    ')
     print('settings of the test applications:',
           *(f'/{name}' for name in SETTINGS if (root / name).exists()), sep='\n    ')
-    for name, wanted in SHOWN:
-        file = root / name
+    for file in (root / name for name in SHOWN):
         text = file.read_text(encoding='utf-8', errors='replace') if file.exists() else '(missing)'
-        print(f'/{name}:', *(line for line in text.splitlines()
-                             if wanted in line or line == '(missing)'), sep='\n    ')
+        print(f'/{file.relative_to(root)}:', *text.splitlines(), sep='\n    ')

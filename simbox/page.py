@@ -8,14 +8,15 @@ import socket
 import subprocess
 
 
-def serve(*target, port=0, log=subprocess.DEVNULL):
-    """Shows a VNC server's screen on a loopback port, 0 for a free one; TARGET names it as websockify takes it.
+def serve(*target):
+    """Shows a VNC server's screen on a free loopback port; TARGET names it as websockify takes it.
 
     Gives the page's address; it ends with this program."""
-    with socket.create_server(('127.0.0.1', port)) as listener:
+    with socket.create_server(('127.0.0.1', 0)) as listener:
         process = subprocess.Popen(
             ['setpriv', '--pdeathsig', 'KILL', 'websockify', '--web', '/usr/share/novnc', '--inetd',
-             *target], stdin=listener, stdout=log, stderr=log, start_new_session=True)
+             *target], stdin=listener, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+            start_new_session=True)
         port = listener.getsockname()[1]
     # With all that it has started for those who look at it.
     atexit.register(os.killpg, process.pid, signal.SIGKILL)

@@ -2,32 +2,28 @@
 # SPDX-License-Identifier: MIT
 """Times programs from exec to a painted window, and their memory then.
 
-    simbox/simbox exec simbox/startup.py -n 7 PROGRAM...
+    simbox/simbox exec simbox/startup.py ROUNDS PROGRAM...
 
-The programs take turns. A window counts as painted once the middle of the screen shows several
-colours, that is, text on a ground; it is looked at each millisecond, which leaves the X server and
-the processors to the program.
+The programs take turns, once more than is counted. A window counts as painted once the middle of
+the screen shows several colours, that is, text on a ground; it is looked at each millisecond, which
+leaves the X server and the processors to the program.
 """
 
-import argparse
 import ctypes
 import statistics
 import subprocess
 import sys
 import time
 
-from driver import PATIENCE
+from driver import PATIENCE, wait_for
 
 SIDE = 100          # pixels, of the square in the middle of the screen that is looked at
 SEVERAL = 8         # colours
 
 
 class XImage(ctypes.Structure):
-    """The head of the library's structure of that name."""
-    _fields_ = [(name, ctypes.c_int) for name in ('width', 'height', 'xoffset', 'format')] + [
-        ('data', ctypes.c_void_p)] + [(name, ctypes.c_int) for name in (
-            'byte_order', 'bitmap_unit', 'bitmap_bit_order', 'bitmap_pad', 'depth',
-            'bytes_per_line')]
+    """The head of the library's structure of that name: size, offset and format; the pixels."""
+    _fields_ = [('form', ctypes.c_int * 4), ('data', ctypes.c_void_p)]
 
 
 class Screen:
@@ -43,18 +39,12 @@ class Screen:
     def colours(self):
         address = self.x.XGetImage(self.display, self.root, self.left, self.top, SIDE, SIDE,
                                    ctypes.c_ulong(0xffffffff), 2)
-        image = XImage.from_address(address)
-        pixels = ctypes.string_at(image.data, image.bytes_per_line * SIDE)
-        self.x.XFree(ctypes.c_void_p(image.data))
-        self.x.XFree(ctypes.c_void_p(address))
+        pixels = ctypes.string_at(XImage.from_address(address).data, 4 * SIDE * SIDE)
+        self.x.XDestroyImage(ctypes.c_void_p(address))
         return len(set(memoryview(pixels).cast('I')))
 
     def wait(self, wanted):
-        start = time.monotonic()
-        while not wanted(self.colours()):
-            if time.monotonic() - start > PATIENCE:
-                sys.exit('the screen does not change as expected')
-            time.sleep(0.001)
+        wait_for(lambda: wanted(self.colours()), 'change of the screen', pause=0.001)
 
 
 def memory(pid):
@@ -80,16 +70,12 @@ def measure(screen, program):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__,
-                                     formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument('-n', type=int, default=7, help='rounds (default 7, after one uncounted)')
-    parser.add_argument('program', nargs='+')
-    options = parser.parse_args()
+    count, *programs = sys.argv[1:]
     screen = Screen()
-    rounds = [[measure(screen, program) for program in options.program]
-              for _ in range(options.n + 1)][1:]
+    rounds = [[measure(screen, program) for program in programs]
+              for _ in range(int(count) + 1)][1:]
     print('painted ms (min median max)   resident MB   proportional MB   program')
-    for figures, program in zip(zip(*rounds), options.program):
+    for figures, program in zip(zip(*rounds), programs):
         painted, resident, proportional = zip(*figures)
         print(f'{min(painted):8.0f} {statistics.median(painted):8.0f} {max(painted):8.0f}'
               f'{statistics.median(resident):14.1f} {statistics.median(proportional):17.1f}'
