@@ -192,7 +192,7 @@ InstructionResult DialogMain::promptForInstruction(QString &typed)
                               tr("The feature is protected by instruction!"), QLineEdit::Password);
     const InstructionResult result = followInstruction(typed);
     if (result == InstructionResult::Unknown) {
-        //: The misspelling is part of the interface: the English text keeps it.
+        //: Misspelt in English, as support knows it: see docs/compatibility.md.
         showError(tr("Unkown instruction!"));
     }
     return result;
@@ -221,7 +221,7 @@ void DialogMain::actionPreference_triggered()
 
 void DialogMain::actionFactoryReset_triggered()
 {
-    //: The missing word is part of the interface: the English text keeps it so.
+    //: English lacks a word, as support knows it: see docs/compatibility.md.
     const QString question = tr("Are sure to factory reset?");
     if (QMessageBox::question(this, tr("Query"), question, QMessageBox::Yes | QMessageBox::No,
                               QMessageBox::No) != QMessageBox::Yes)

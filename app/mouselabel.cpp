@@ -13,7 +13,7 @@ MouseLabel::MouseLabel(QWidget *parent)
 
 bool MouseLabel::event(QEvent *event)
 {
-    // Only the second sheet ends in a semicolon. Both texts are fixed; do not align them.
+    // Only the second sheet ends in a semicolon: see docs/compatibility.md.
     switch (event->type()) {
     case QEvent::Enter:
         setStyleSheet(QStringLiteral("color: blue"));

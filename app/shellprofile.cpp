@@ -47,8 +47,8 @@ bool writeLocaleLine(const QString &fileName, const QByteArray &line)
         return true;
     }
 
-    // The lines of LANGUAGES replace each other cleanly, being of one length; what a longer or
-    // shorter foreign line leaves behind is accepted.
+    // The lines of LANGUAGES replace each other cleanly, being of one length. A longer foreign line
+    // leaves its tail, a shorter one loses its end: see docs/compatibility.md.
     file.seek(localeLineOffset(profile));
     file.write(line);
     file.close();

@@ -18,7 +18,7 @@ QString upgradeApplicationCommand(const TestApplication &application)
 
 QString upgradeFileSystemCommand()
 {
-    // The pass phrase is a fixed part of the upgrader's interface and passes in the open.
+    // The upgrader takes the pass phrase in the open: see docs/compatibility.md.
     return QStringLiteral("upgrader fs %1 %2")
         .arg(QStringLiteral("fs_patches"), QStringLiteral("tore7malvin2ek+"));
 }

@@ -22,7 +22,7 @@ bool BaseDevice::OpenDevice(const QString &name)
     m_name = name;
     m_fd = ::open(m_name.toUtf8().constData(), O_RDWR);
     if (m_fd < 0) {
-        // The blank at the end is part of the text.
+        // Ends in a blank: see docs/compatibility.md.
         m_errorString = QStringLiteral("Error opening %1. ").arg(m_name);
         oxlog::critical(OX_LOG_HERE, oxlog::quoted(m_errorString));
         return false;

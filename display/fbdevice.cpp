@@ -107,7 +107,7 @@ bool FbDevice::GetVarScreenInfo()
     };
     write("xres", info.xres);
     write("yres", info.yres);
-    write("xres_virturl", info.xres_virtual); // so spelt in the log
+    write("xres_virturl", info.xres_virtual); // so spelt: docs/compatibility.md
     write("yres_virtual", info.yres_virtual);
     write("xoffset", info.xoffset);
     write("yoffset", info.yoffset);

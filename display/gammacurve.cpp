@@ -8,7 +8,8 @@ namespace {
 
 constexpr int POINTS = GAMMA_SEGMENTS + 1;
 
-// The driver's input levels between the segments, on a scale of 384. The last one is 383.
+// The driver's input levels between the segments, on a scale of 384. The last is 383: see
+// docs/compatibility.md.
 constexpr int INPUTS[POINTS] = {0,   2,   4,   8,   16,  32,  64,  96, 128,
                                 160, 192, 224, 256, 288, 320, 352, 383};
 

@@ -55,8 +55,8 @@ void DialogPreference::buttonBox_clicked(QAbstractButton *button)
         return;
     }
 
-    // This removes the clock script's copy and leaves this one's, which the next run replaces. Both
-    // are what a box is expected to hold after a run.
+    // This removes the clock script's copy and leaves this one's, which the next run replaces: see
+    // docs/compatibility.md.
     QFile::remove(CLOCK_SCRIPT_COPY);
 
     if (result == ScriptResult::RunFailed) {

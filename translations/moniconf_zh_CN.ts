@@ -168,7 +168,7 @@
     </message>
     <message>
         <source>Unkown instruction!</source>
-        <extracomment>The misspelling is part of the interface: the English text keeps it.</extracomment>
+        <extracomment>Misspelt in English, as support knows it: see docs/compatibility.md.</extracomment>
         <translation>指令无效！</translation>
     </message>
     <message>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Are sure to factory reset?</source>
-        <extracomment>The missing word is part of the interface: the English text keeps it so.</extracomment>
+        <extracomment>English lacks a word, as support knows it: see docs/compatibility.md.</extracomment>
         <translation>确定要恢复出厂设置吗？</translation>
     </message>
     <message>

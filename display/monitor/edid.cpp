@@ -52,7 +52,7 @@ constexpr int MIN_HORIZONTAL_KHZ = 7;
 constexpr int MAX_HORIZONTAL_KHZ = 8;
 constexpr int MAX_CLOCK_10MHZ = 9;
 
-// Bit 7 of the first byte first. The last two have no unit, a fixed part of the output.
+// Bit 7 of the first byte first. The last two have no unit: see docs/compatibility.md.
 constexpr const char *ESTABLISHED_TIMING_LINES[] = {
     "\t720x400\t\t70 Hz (VGA 640x400, IBM)\n",
     "\t720x400\t\t88 Hz (XGA2)\n",
@@ -179,7 +179,7 @@ std::string displayText(const unsigned char *edid)
 
 std::string establishedTimingsText(const unsigned char *edid)
 {
-    std::string text = "Estabilished timings:\n"; // so spelt, a fixed part of the output
+    std::string text = "Estabilished timings:\n"; // so spelt: docs/compatibility.md
     int index = 0;
     for (const char *timing : ESTABLISHED_TIMING_LINES) {
         if ((edid[ESTABLISHED_TIMINGS + index / 8] & 0x80 >> index % 8) != 0)

@@ -31,8 +31,8 @@ ConfFile::T_ConfItem parsed(const QString &line)
     return item;
 }
 
-// A line that holds a setting and a comment is written as its comment alone, the setting is lost.
-// That is how this format behaves on the box; it stays so.
+// A line that holds a setting and a comment is written as its comment alone, the setting is lost:
+// see docs/compatibility.md.
 QString rendered(const ConfFile::T_ConfItem &item)
 {
     QString line;
