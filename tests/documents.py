@@ -1,0 +1,103 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Fails when a page lacks what the code has, or names what is not there."""
+
+import re
+import sys
+import xml.etree.ElementTree as ET
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / 'simbox'))
+from files import SETTINGS, SHOWN  # noqa: E402
+from tables import MENU  # noqa: E402
+
+TEXTS = {path.relative_to(ROOT).as_posix(): path.read_text(encoding='utf-8', errors='replace')
+         for top in ROOT.iterdir() if top.name not in ('.git', 'build')
+         for path in (top, *top.rglob('*')) if path.is_file()}
+PAGES = {name: text for name, text in TEXTS.items() if name.endswith('.md')}
+INTEGRATION, MAN_PAGE = 'docs/integration.md', 'packaging/moniconf.1.in'
+
+
+def lacking(what, *pages):
+    return [f'{page} lacks {what}' for page in pages
+            if what not in TEXTS[page].replace(r'\-', '-')]
+
+
+def messages():
+    """Whole sentences and the menu's entries, but for those of About, which are no messages."""
+    for context in ET.fromstring(TEXTS['translations/moniconf_zh_CN.ts']).iter('context'):
+        for message in context.iter('message'):
+            english = message.findtext('source')
+            if english in MENU or english[-1] in '.!?' and context[0].text != 'DialogAbout':
+                for text in (english, message.findtext('translation')):
+                    yield from lacking(f'| {text} |' if english in MENU else text,
+                                       'docs/manual.md', 'docs/manual.zh_CN.md')
+
+
+def log_positions():
+    rows = dict(re.findall(r'^\| (\w+:\d+) \| (\w+ \| .*?) \|', TEXTS[INTEGRATION], re.M))
+    for name, source in TEXTS.items():
+        written = {site: f'{level} | {text}' for level, site, text in re.findall(
+            r'oxlog::(\w+)\(\s*OX_LOG_AT\((\w+)\),\s*(?:QStringLiteral\("(.*?)"\))?', source)}
+        for site, line in re.findall(r'^ +position\((\w+), (\d+)\)', source, re.M):
+            row = rows.pop(f'{Path(name).stem}:{line}', '')
+            text = re.escape(written.get(site, '')).replace('%1', '.*')
+            if not row or not re.match(text, row):
+                yield f'{INTEGRATION} has not for {name}:{line}: {written.get(site)}'
+    yield from (f'{INTEGRATION} has {position}, which is no position' for position in rows)
+
+
+def changed_files():
+    for name in (*SETTINGS, *(name for name, _ in SHOWN[:-1]), 'etc/xdg/autostart'):
+        for part in name.rsplit('/', 1) if name.endswith('.ini') else [name]:
+            yield from lacking(part, INTEGRATION, MAN_PAGE)
+
+
+def options():
+    source, = (text for name, text in TEXTS.items() if name.endswith('/moniconf-edid.cpp'))
+    for option in re.findall(r'{"(\w+)", \w+_argument', source):
+        yield from lacking(f'--{option}', 'packaging/moniconf-edid.1.in', 'README.md')
+
+
+def headings(page):
+    """The anchors that a page's headings have in links."""
+    return [re.sub(r'[^\w -]', '', title.lower()).replace(' ', '-')
+            for title in re.findall(r'^#+ (.*)', page.read_text(encoding='utf-8'), re.M)]
+
+
+def links():
+    for page, text in PAGES.items():
+        for link in re.findall(r'\]\(([^)]+)\)', text):
+            file, _, anchor = link.partition('#')
+            target = (ROOT / page).parent / file if file else ROOT / page
+            if not target.exists() or anchor and anchor not in headings(target):
+                yield f'{page}: {link} is not there'
+    yield from (f'{name}: {page} is not there' for name, text in TEXTS.items()
+                for page in re.findall(r'\bdocs/[\w.]+\.md\b', text) if page not in PAGES)
+
+
+def names():
+    """Paths and targets in backticks and lines of code; file and other names in backticks."""
+    tops = {name.split('/')[0] for name in TEXTS if '/' in name}
+    code = ' '.join(text for name, text in TEXTS.items() if name not in PAGES)
+    known = set(re.findall(r'[\w-]+', code)) | {Path(name).name for name in TEXTS}
+    targets = set(' '.join(re.findall(r'^([\w -]+):', TEXTS['Makefile'], re.M)).split())
+    for page, text in PAGES.items():
+        for span in re.findall(r'`([^`\n]+)`', text) + re.findall(r'^    (.*)', text, re.M):
+            for target in re.findall(r'\bmake ([a-z][\w-]*)', span):
+                if target not in targets:
+                    yield f'{page}: make {target} is not there'
+            for word in span.split():
+                if word.split('/')[0] in tops and '/' in word:
+                    if not [*ROOT.glob(word), *ROOT.glob(word + '.*')]:
+                        yield f'{page}: {word} is not there'
+        for word in re.findall(r'`(\w[\w-]*(?:\.(?:cpp|h|md|py|sh|ts|txt|ui))?)[` ]', text):
+            if word not in known:
+                yield f'{page}: {word} is not there'
+
+
+found = [fault for check in (messages, log_positions, changed_files, options, links, names)
+         for fault in check()]
+print('\n'.join(found) or 'the documents agree with the code')
+sys.exit(1 if found else 0)
