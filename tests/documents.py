@@ -35,7 +35,7 @@ def messages():
                                        'docs/manual.md', 'docs/manual.zh_CN.md')
 
 
-def log_positions():
+def log_messages():
     rows = dict(re.findall(r'^\| (\w+:\d+) \| (\w+ \| .*?) \|', TEXTS[INTEGRATION], re.M))
     for name, source in TEXTS.items():
         written = {site: f'{level} | {text}' for level, site, text in re.findall(
@@ -45,6 +45,9 @@ def log_positions():
             text = re.escape(written.get(site, '')).replace('%1', '.*')
             if not row or not re.match(text, row):
                 yield f'{INTEGRATION} has not for {name}:{line}: {written.get(site)}'
+        for text in re.findall(r'oxlog::critical\([^;]*?QStringLiteral\(\s*"(.*?)"', source):
+            for part in re.split(r'%\d', text):
+                yield from lacking(part.strip(), INTEGRATION)
     yield from (f'{INTEGRATION} has {position}, which is no position' for position in rows)
 
 
@@ -97,7 +100,7 @@ def names():
                 yield f'{page}: {word} is not there'
 
 
-found = [fault for check in (messages, log_positions, changed_files, options, links, names)
+found = [fault for check in (messages, log_messages, changed_files, options, links, names)
          for fault in check()]
 print('\n'.join(found) or 'the documents agree with the code')
 sys.exit(1 if found else 0)
