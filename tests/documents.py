@@ -52,7 +52,8 @@ def log_messages():
 
 
 def changed_files():
-    for name in (*SETTINGS, *(name for name, _ in SHOWN[:-1]), 'etc/xdg/autostart'):
+    shown = re.findall(r"'((?:etc|opt|usr)/.*?)'", str(SHOWN))
+    for name in (*SETTINGS, *shown, 'etc/xdg/autostart'):
         for part in name.rsplit('/', 1) if name.endswith('.ini') else [name]:
             yield from lacking(part, INTEGRATION, MAN_PAGE)
 
