@@ -38,8 +38,11 @@ def messages():
 def log_messages():
     rows = dict(re.findall(r'^\| (\w+:\d+) \| (\w+ \| .*?) \|', TEXTS[INTEGRATION], re.M))
     for name, source in TEXTS.items():
-        written = {site: f'{level} | {text}' for level, site, text in re.findall(
-            r'oxlog::(\w+)\(\s*OX_LOG_AT\((\w+)\),\s*(?:QStringLiteral\("(.*?)"\))?', source)}
+        variables = dict(re.findall(r'(\w+) =\s+QStringLiteral\("(.*?)"', source))
+        written = {site: f'{level} | {text or variables.get(variable, "")}'
+                   for level, site, text, variable in re.findall(
+                       r'oxlog::(\w+)\(\s*OX_LOG_AT\((\w+)\),\s*'
+                       r'(?:QStringLiteral\("(.*?)"|(\w+))', source)}
         for site, line in re.findall(r'^ +position\((\w+), (\d+)\)', source, re.M):
             row = rows.pop(f'{Path(name).stem}:{line}', '')
             text = re.escape(written.get(site, '')).replace('%1', '.*')
