@@ -87,21 +87,19 @@ def links():
 def names():
     """Paths and targets in backticks and lines of code; file and other names in backticks."""
     tops = {name.split('/')[0] for name in TEXTS if '/' in name}
-    code = ' '.join(text for name, text in TEXTS.items() if name not in PAGES)
-    known = set(re.findall(r'[\w-]+', code)) | {Path(name).name for name in TEXTS}
+    known = {Path(name).name for name in TEXTS}.union(
+        *(re.findall(r'[\w-]+', text) for name, text in TEXTS.items() if name not in PAGES))
     targets = set(' '.join(re.findall(r'^([\w -]+):', TEXTS['Makefile'], re.M)).split())
     for page, text in PAGES.items():
-        for span in re.findall(r'`([^`\n]+)`', text) + re.findall(r'^    (.*)', text, re.M):
-            for target in re.findall(r'\bmake ([a-z][\w-]*)', span):
-                if target not in targets:
-                    yield f'{page}: make {target} is not there'
-            for word in span.split():
-                if word.split('/')[0] in tops and '/' in word:
-                    if not [*ROOT.glob(word), *ROOT.glob(word + '.*')]:
-                        yield f'{page}: {word} is not there'
-        for word in re.findall(r'`(\w[\w-]*(?:\.(?:cpp|h|md|py|sh|ts|txt|ui))?)[` ]', text):
-            if word not in known:
-                yield f'{page}: {word} is not there'
+        code = re.findall(r'`([^`\n]+)`', text) + re.findall(r'^    (.*)', text, re.M)
+        words = [word for span in code for word in span.split() if '/' in word]
+        wrong = [f'make {target}' for span in code
+                 for target in re.findall(r'\bmake ([a-z][\w-]*)', span) if target not in targets]
+        wrong += [word for word in words if word.split('/')[0] in tops
+                  and not [*ROOT.glob(word), *ROOT.glob(word + '.*')]]
+        wrong += [word for word in re.findall(
+            r'`(\w[\w-]*(?:\.(?:cpp|h|md|py|sh|ts|txt|ui))?)[` ]', text) if word not in known]
+        yield from (f'{page}: {word} is not there' for word in wrong)
 
 
 found = [fault for check in (messages, log_messages, changed_files, options, links, names)
