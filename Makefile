@@ -18,7 +18,7 @@ run: PARTS := moniconf moniconf-edid catalogues
 run: build
 	simbox/simbox --program $(BUILD) --hdmi 1280x1024 --mode 1024x768 run
 
-# Every test: units, dialogs, and the real program in the simulated box.
+# Every test but the package's and the board's: units, dialogs, the real program in the simulated box.
 check: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
