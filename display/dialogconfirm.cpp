@@ -3,13 +3,13 @@
 
 #include "display/screenarea.h"
 #include "display/screenkeeper.h"
+#include "libOxUtils/utils/picture.h"
 #include "ui_dialogconfirm.h"
 
 #include <QMoveEvent>
 
 namespace {
 
-constexpr int COUNTDOWN_SECONDS = 30;
 constexpr int TICK_MS = 1000;
 
 // The question comes with the switch, before the toolkit has heard of the new screen's size: it has
@@ -18,9 +18,6 @@ constexpr int WIDEST = 800 - 16;
 
 // A window manager that puts the window back must not be argued with for ever.
 constexpr int MOST_MOVES = 10;
-
-// The form's picture is for 96 dots an inch; for more its double is scaled down.
-constexpr int PICTURE_DPI = 96;
 
 } // namespace
 
@@ -40,10 +37,7 @@ DialogConfirm::DialogConfirm(QWidget *parent)
     , m_secondsLeft(COUNTDOWN_SECONDS)
 {
     ui->setupUi(this);
-    if (logicalDpiY() > PICTURE_DPI) {
-        ui->label_2->setFixedSize(ui->label_2->minimumSize() * logicalDpiY() / PICTURE_DPI);
-        ui->label_2->setPixmap(QPixmap(QStringLiteral(":/image/question@2x.png")));
-    }
+    showPicture(*ui->label_2, QStringLiteral("question"));
     showSecondsLeft();
     fitSmallestMode();
     connect(ui->m_btnRestorePreConfig, &QPushButton::clicked, this,

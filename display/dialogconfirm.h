@@ -16,7 +16,7 @@ class DialogConfirm;
 int distanceFromPointer(const QRect &rect, const QRect &buttons, const QPoint &pointer,
                         const QRect &area);
 
-// Asks whether a newly switched mode can be seen, and answers no by itself after 30 seconds: a
+// Asks whether a newly switched mode can be seen, and answers no by itself at the end of a count: a
 // user in front of a black screen gets the old mode back without touching anything. The result is
 // Accepted when the mode is to be kept, Rejected otherwise.
 //
@@ -28,6 +28,9 @@ class DialogConfirm : public QDialog
     Q_OBJECT
 
 public:
+    // What the count starts at.
+    static constexpr int COUNTDOWN_SECONDS = 30;
+
     explicit DialogConfirm(QWidget *parent);
     ~DialogConfirm() override;
 

@@ -2,6 +2,7 @@
 #include "maintenance/dialogabout.h"
 
 #include "app/globalvars.h"
+#include "libOxUtils/utils/picture.h"
 #include "maintenance/identity/appversion.h"
 #include "maintenance/identity/productbarcode.h"
 #include "maintenance/wrappedtext.h"
@@ -27,9 +28,6 @@ constexpr int SCREEN_MARGIN = 40;
 // At 96 dots an inch the style asks for a pixel more than the form has; a button can do without.
 constexpr int SPARED_PIXELS = 1;
 
-// The form's picture is for 96 dots an inch; at this and above, the double-size one is closer.
-constexpr int DENSE_SCREEN_DPI = 144;
-
 } // namespace
 
 DialogAbout::DialogAbout(QWidget *parent)
@@ -38,11 +36,7 @@ DialogAbout::DialogAbout(QWidget *parent)
 {
     ui->setupUi(this);
     setWindowTitle(tr("About..."));
-    if (devicePixelRatioF() * logicalDpiX() >= DENSE_SCREEN_DPI) {
-        QPixmap logo(QStringLiteral(":/image/logo@2x.png"));
-        logo.setDevicePixelRatio(devicePixelRatioF());
-        ui->lblLogo->setPixmap(logo);
-    }
+    showPicture(*ui->lblLogo, QStringLiteral("logo"));
     ui->lblVersion->setText(GetAppVersion());
     //: %1 is the year that the box's clock shows. Orvex is the maker's name.
     ui->lblCompany->setText(tr("Copyright (C) 2013-%1 Orvex").arg(QDate::currentDate().year()));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The one header of this library that needs Qt's Gui module: it is for targets that link that
-// module, and the library itself does not include it.
+// Needs Qt's Gui module: it is for targets that link that module, and the library itself does not
+// include it.
 #pragma once
 
 #include <QCursor>

@@ -147,7 +147,7 @@ Action answerQuestion(Answer answer, const QString &before)
                     QTest::qWaitFor([=] { return widget->isHidden(); }));
         else if (answer != Wait)
             (answer == Keep ? keep : restore)->click();
-        for (int left = 30; widget->isVisible(); --left) {
+        for (int left = DialogConfirm::COUNTDOWN_SECONDS; widget->isVisible(); --left) {
             QCOMPARE(sentence->text(), "The display will be reset to its previous configuration in "
                                        "%1 seconds"_s.arg(left));
             QVERIFY(left > 0);
