@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "maintenance/datetimeedit.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -8,6 +10,11 @@ void DateTimeEdit::keyPressEvent(QKeyEvent *event)
 {
     const QString text = event->text();
     const QChar typed = text.isEmpty() ? QChar() : text.at(0);
+    // A whole date replaces what is shown, not only the part that is selected.
+    if (event->matches(QKeySequence::Paste) &&
+        dateTimeFromText(QGuiApplication::clipboard()->text().simplified()).isValid())
+        lineEdit()->selectAll();
+
     if (typed.isDigit())
         typeDigit(event);
     else if (typed.isPrint() && !typed.isLetter())

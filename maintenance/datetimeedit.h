@@ -4,8 +4,8 @@
 #include <QDateTimeEdit>
 
 // An editor that takes a date as it shows it. The toolkit's goes on to the next part by itself once
-// a part is full, and once more for the separator that is typed then; and where no part is
-// selected, or several are, it refuses the digits and takes the rest.
+// a part is full, and once more for the separator that is typed then; where no part is selected, or
+// several are, it refuses the digits and takes the rest; and a whole date is pasted into one part.
 class DateTimeEdit : public QDateTimeEdit
 {
 public:

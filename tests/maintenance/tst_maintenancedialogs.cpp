@@ -235,21 +235,25 @@ private slots:
 
     void typedClock()
     {
-        // Behind a > all is selected first.
+        // Behind a > all is selected first; a + pastes.
+        QGuiApplication::clipboard()->setText("2027-03-15 08:30:59"_s);
         const QString rows[][2] = {
             {"2027-03-15 8:30:59"_s, "2027-03-15 08:30:59"_s}, // as it is shown
             {">2027-03-15 08:30:59"_s, "2027-03-15 08:30:59"_s},
             {"20270315083059"_s, "2027-03-15 08:30:59"_s},
             {">2027-2-3 4:5:6"_s, "2027-02-03 04:05:06"_s},
             {"2027/2/3 4.5.6"_s, "2027-02-03 04:05:06"_s},
+            {"+"_s, "2027-03-15 08:30:59"_s},
             {"2027--15"_s, "2027-01-15 23:10:20"_s}, // the month stays
         };
         for (const auto &[typed, set] : rows) {
             setClock(QDateTime(QDate(2026, 1, 31), QTime(23, 10, 20)));
             open("clock"_s, {[text = typed](QWidget *dialog) {
                      for (const QChar key : text) {
-                         if (key == u'>')
-                             QTest::keyClick(dialog->focusWidget(), Qt::Key_A, Qt::ControlModifier);
+                         if (key == u'>' || key == u'+')
+                             QTest::keyClick(dialog->focusWidget(),
+                                             key == u'+' ? Qt::Key_V : Qt::Key_A,
+                                             Qt::ControlModifier);
                          else
                              QTest::keyClick(dialog->focusWidget(), key.toLatin1());
                      }
