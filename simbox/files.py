@@ -26,8 +26,9 @@ SETTINGS = ('home/root/vexa_standard/vexaapp.ini', 'home/root/vexa_standard/user
             'home/root/vexa_standard/filemanager.ini', 'home/root/vexa_otp/vxotp.ini',
             'home/root/vexa_otp/filemanager.ini')
 ENTRY = '[Desktop Entry]\nType=Application\nName={}\nExec={}\n'
-# Stand-ins for what must not reach the machine, or is a program of another maker.
-RECORD = 'echo "${0##*/}${*:+ $*}" >>/run/simbox/calls\n'
+# Stand-ins for what must not reach the machine, or is a program of another maker. They say so when
+# the tool's setting against OpenGL has been passed on to them.
+RECORD = 'echo "${0##*/}${*:+ $*}${QT_XCB_GL_INTEGRATION+ without OpenGL}" >>/run/simbox/calls\n'
 FILES = {
     'etc/passwd': 'root:x:0:0:root:/home/root:/bin/bash\n',
     'etc/group': 'root:x:0:\n',
