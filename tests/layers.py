@@ -19,7 +19,6 @@ LAYERS = {
     'app/': ['app/guards/', 'app/globalvars', 'display/', 'display/monitor/', 'maintenance/',
              'maintenance/identity/', 'libOxUtils/'],
 }
-ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
 def place_of(path):
@@ -27,19 +26,17 @@ def place_of(path):
 
 
 def breaches():
-    for source in sorted(ROOT.glob('*/**/*')):
-        name = source.relative_to(ROOT).as_posix()
+    root = pathlib.Path(__file__).resolve().parent.parent
+    for source in sorted(root.glob('*/**/*')):
+        name = source.relative_to(root).as_posix()
         place = place_of(name)
         if place is None or source.suffix not in ('.h', '.cpp'):
             continue
         for included in re.findall(r'^\s*#\s*include\s+["<]([^">]+)', source.read_text(), re.M):
-            target = place_of(included)
-            if target not in (None, place, *LAYERS[place]):
+            if place_of(included) not in (None, place, *LAYERS[place]):
                 yield f'{name}: may not include {included}'
             if place in ('display/monitor/', 'display/edidtool/') and included.startswith('Q'):
                 yield f'{name}: {included} is Qt'
 
 
-found = list(breaches())
-print('\n'.join(found) or 'all layers are kept')
-sys.exit(1 if found else 0)
+sys.exit('\n'.join(breaches()) or None)

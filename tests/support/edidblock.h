@@ -11,17 +11,10 @@ class EdidBlock
 public:
     EdidBlock() { set(0, "00ffffffffffff00").set(18, "0103"); }
 
-    EdidBlock &set(int offset, const char *hex)
+    EdidBlock &set(int offset, const QByteArray &hex)
     {
         const QByteArray bytes = QByteArray::fromHex(hex);
         m_bytes.replace(offset, bytes.size(), bytes);
-        return *this;
-    }
-
-    // A display descriptor (name, range limits, ...) in one of the four slots, counted from 0.
-    EdidBlock &descriptor(int slot, char tag, const QByteArray &data)
-    {
-        m_bytes.replace(54 + 18 * slot, 5 + data.size(), QByteArray(3, '\0') + tag + '\0' + data);
         return *this;
     }
 

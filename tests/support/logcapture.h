@@ -15,15 +15,10 @@ public:
         QString file;
         int line;
         QString function;
-        QString category;
         QString text;
     };
 
-    LogCapture()
-        : m_previous(qInstallMessageHandler(&LogCapture::collect))
-    {
-        s_messages.clear();
-    }
+    LogCapture() { s_messages.clear(); }
     ~LogCapture() { qInstallMessageHandler(m_previous); }
     Q_DISABLE_COPY(LogCapture)
 
@@ -35,12 +30,11 @@ public:
     {
         QStringList result;
         for (const Message &message : qAsConst(s_messages)) {
-            if (message.file != file)
-                continue;
-            const QString letter = message.type == QtDebugMsg      ? QStringLiteral("D ")
-                                   : message.type == QtCriticalMsg ? QStringLiteral("C ")
-                                                                   : QStringLiteral("? ");
-            result.append(letter + message.text);
+            const char *letter = message.type == QtDebugMsg      ? "D "
+                                 : message.type == QtCriticalMsg ? "C "
+                                                                 : "? ";
+            if (message.file == file)
+                result << QLatin1String(letter) + message.text;
         }
         return result;
     }
@@ -49,10 +43,9 @@ private:
     static void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
     {
         s_messages.append({type, QString::fromUtf8(context.file), context.line,
-                           QString::fromUtf8(context.function), QString::fromUtf8(context.category),
-                           text});
+                           QString::fromUtf8(context.function), text});
     }
 
     static inline QVector<Message> s_messages;
-    QtMessageHandler m_previous;
+    const QtMessageHandler m_previous = qInstallMessageHandler(&LogCapture::collect);
 };

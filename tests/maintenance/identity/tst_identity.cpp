@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "maintenance/identity/appversion.h"
 #include "maintenance/identity/productbarcode.h"
+#include "tests/support/text.h"
 
 #include <QtTest>
 
 #include <ctime>
+#include <map>
 
 class TestIdentity : public QObject
 {
@@ -25,42 +27,42 @@ private slots:
         for (const auto &[version, zone, date, time] : rows) {
             qputenv("TZ", zone);
             tzset();
-            QCOMPARE(appVersion(QString::fromLatin1(date), QString::fromLatin1(time)),
-                     QLatin1String(version));
+            QCOMPARE(appVersion(QLatin1String(date), QLatin1String(time)), QLatin1String(version));
         }
     }
 
     void barcodes()
     {
-        // The third line and what it gives. With the serial number 0, which is no number, the
-        // barcode is kept but does not count; with -1 there is none.
-        const struct
-        {
-            const char *barcode;
-            int type, serialNo;
-            quint32 flags;
-        } rows[] =
-            {{"000KH001", 0, 1, 0},     {"421KH001", 421, 1, 0},    {"437KH001", 437, 1, 0},
-             {"458KH001", 458, 1, 32},  {"463KH001", 463, 1, 64},   {"509KH001", 509, 1, 1},
-             {"516KH001", 516, 1, 17},  {"527KH001", 527, 1, 79},   {"548KH001", 548, 1, 68},
-             {"552KH001", 552, 1, 71},  {"569KH001", 569, 1, 79},   {"574KH001", 574, 1, 79},
-             {"681KH001", 681, 1, 192}, {"694KH001", 694, 1, 207},  {"999XY001", 458, 1, 32},
-             {"abcXY001", 0, 1, 0},     {"573KH214", 421, 214, 0},  {"846WF507", 569, 507, 79},
-             {"391WF628", 0, 628, 0},   {"391WF743", 0, 743, 0},    {"391WF860", 0, 860, 0},
-             {"395PL476", 0, 476, 0},   {"395PL477", 458, 477, 32}, {"527AB0x1", 527, 0, 79},
-             {"527AB01", 0, -1, 0},     {"527AB001 ", 0, -1, 0},    {"c|527AB001", 0, -1, 0}};
-        for (const auto &[text, type, serialNo, flags] : rows) {
-            const QString barcode = QString::fromLatin1(text);
-            const QStringList lines = (QStringLiteral("a|b|") + barcode).split(QLatin1Char('|'));
-            ProductBarcode::T_Barcode record{QStringLiteral("527AB001"), 527, QDate(), -1};
-            QVERIFY(!ProductBarcode::DecodeBarcode(record, {QString(), barcode}));
-            QVERIFY2(ProductBarcode::DecodeBarcode(record, lines) == (serialNo > 0), text);
-            QCOMPARE(record.barcode, serialNo < 0 ? QString() : barcode);
-            QVERIFY2(record.type == type && record.serialNo == serialNo, text);
+        // All product types with their capability flags, of which 8 is the OTP application.
+        const std::map<int, quint32> flagsOfType = {
+            {0, 0},    {421, 0},  {437, 0},  {458, 32}, {463, 64}, {509, 1},   {516, 17},
+            {527, 79}, {548, 68}, {552, 71}, {569, 79}, {574, 79}, {681, 192}, {694, 207},
+        };
+        // Barcodes with their type and serial number.
+        std::map<QString, QString> rows = {
+            {"999XY001"_s, "458, 1"_s},   {"abcXY001"_s, "0, 1"_s},
+            {"573KH214"_s, "421, 214"_s}, {"846WF507"_s, "569, 507"_s},
+            {"391WF628"_s, "0, 628"_s},   {"391WF743"_s, "0, 743"_s},
+            {"391WF860"_s, "0, 860"_s},   {"395PL476"_s, "0, 476"_s},
+            {"395PL477"_s, "458, 477"_s}, {"527AB0x1"_s, "527, no number"_s},
+        };
+        for (const auto &[type, flags] : flagsOfType)
+            rows["%1KH001"_s.arg(type, 3, 10, QLatin1Char('0'))] = "%1, 1"_s.arg(type);
+        for (const auto &[barcode, wanted] : rows) {
+            ProductBarcode::T_Barcode record;
+            const bool isWell = ProductBarcode::DecodeBarcode(record, {"a"_s, "b"_s, barcode});
+            const QString serialNo = isWell ? QString::number(record.serialNo) : "no number"_s;
+            QCOMPARE("%1, %2"_s.arg(record.type).arg(serialNo), wanted);
+            QCOMPARE(record.barcode, barcode);
             QVERIFY(record.productionDate.isNull());
-            quint32 found = 1U << 31;
-            ProductBarcode::GetTypeFlags(record, found);
-            QVERIFY2(found == flags, text);
+            quint32 flags = 1U << 31;
+            ProductBarcode::GetTypeFlags(record, flags);
+            QCOMPARE(flags, flagsOfType.at(record.type));
+        }
+        for (const char *lines : {"a|527AB001", "a|b|527AB001|d", "a|b|527AB01", "a|b|527AB001 "}) {
+            ProductBarcode::T_Barcode record{"527AB001"_s, 527, QDate(), 1};
+            QVERIFY(!ProductBarcode::DecodeBarcode(record, QString::fromLatin1(lines).split(u'|')));
+            QVERIFY2(record.barcode.isEmpty() && record.type == 0, lines);
         }
     }
 };

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "display/connectors.h"
+#include "display/fbdevice.h"
+#include "display/gammacurve.h"
+#include "display/i2cdevice.h"
+#include "display/modetext.h"
+#include "display/screenarea.h"
+#include "display/screenconfiguration.h"
+#include "tests/support/box.h"
+#include "tests/support/logcapture.h"
+#include "tests/support/text.h"
+
+#include <QTemporaryFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <tuple>
+#include <unistd.h>
+
+class TestDisplay : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryFile m_file;
+    const QString m_missing = "/nowhere/%1"_s;
+
+private slots:
+    void initTestCase() { QVERIFY(m_file.open()); }
+
+    void modeTexts()
+    {
+        using Result = ModeTextResult;
+        // A text, and what comes of it over 7x8@9, which the mode held before.
+        const std::tuple<const char *, Result, DisplayMode> rows[] = {
+            {"1920x1080M@60", Result::Read, {1920, 1080, 60}},
+            {"1024X768", Result::Read, {1024, 768, 60}},
+            {"1280 x 1024", Result::Read, {1280, 1024, 60}},
+            {"800x600m@75", Result::Read, {800, 600, 75}},
+            {"800xabc@60", Result::Read, {800, 0, 60}},
+            {"800x600@", Result::LastIsBad, {800, 600, 0}},
+            {"800x", Result::LastIsBad, {800, 0, 60}},
+            {"60@800x600", Result::NoWidth, {0, 8, 9}},
+            {"-800x600", Result::NoWidth, {0, 8, 9}},
+            {"4294967296x600", Result::NoWidth, {0, 8, 9}},
+            {"", Result::NoWidth, {7, 8, 9}},
+        };
+        for (const auto &[text, result, wanted] : rows) {
+            DisplayMode mode{7, 8, 9};
+            QVERIFY2(parseModeText(QLatin1String(text), mode) == result, text);
+            QVERIFY2(isSameSize(mode, wanted) && mode.refreshRate == wanted.refreshRate, text);
+        }
+    }
+
+    // Against tables that were derived apart from it, in another language: arctangent and power
+    // with 400 bits, each result then rounded to single or double precision as the curve's
+    // definition names it, the integer steps in 32 bits. For positive gammas no value comes closer
+    // than 900 units in its last place to where the rounding turns.
+    void gammaCurves()
+    {
+        const struct
+        {
+            float gamma;
+            int constk[GAMMA_SEGMENTS], slopek[GAMMA_SEGMENTS];
+        } rows[] = {
+            {1.0F,
+             {0, 0, 0, 510, 509, 7, 29, 53, 76, 99, 122, 144, 166, 188, 211, 233},
+             {0, 0, 0, 8, 10, 22, 24, 23, 23, 23, 22, 22, 22, 23, 22, 21}},
+            {2.2F,
+             {0, 511, 511, 509, 501, 29, 78, 113, 139, 160, 177, 193, 207, 220, 233, 244},
+             {0, 16, 16, 24, 40, 49, 35, 26, 21, 17, 16, 14, 13, 13, 11, 11}},
+            // Too large to be rounded away, so it shows every last bit; it saturates and wraps.
+            {-0.25F,
+             {1, 62, 264, 242, 168, 340, 299, 267, 118, 205, 304, 82, 238, 282, 12, 360},
+             {-32, 1593408528, -118364736, -291103208, -20366676, 2145879511, 2147309024,
+              2147447659, 2147472983, 2147479651, 2147481890, 2147482780, 2147483180, 2147483378,
+              2147483484, 2147483546}},
+            // What is no number is applied as 0.
+            {0.0F, {}, {}},
+        };
+        for (const auto &row : rows) {
+            const GammaCurve result = gammaCurve(row.gamma);
+            QCOMPARE(result.enable, 1);
+            for (int i = 0; i < GAMMA_SEGMENTS; ++i) {
+                QCOMPARE(result.constk[i], row.constk[i]);
+                QCOMPARE(result.slopek[i], row.slopek[i]);
+            }
+        }
+    }
+
+    void placesOnScreen()
+    {
+        const QRect screen(0, 0, 800, 600);
+        QCOMPARE(placeOnScreen(QRect(514, 277, 286, 323), screen), QPoint(514, 277));
+        QCOMPARE(placeOnScreen(QRect(900, 800, 286, 323), screen), QPoint(514, 277));
+        QCOMPARE(placeOnScreen(QRect(-20, -5, 286, 323), screen), QPoint(0, 0));
+        QCOMPARE(placeOnScreen(QRect(30, 30, 1000, 700), screen), QPoint(0, 0));
+    }
+
+    // That a command has failed shows in the box's tests, but not with modes of one size.
+    void knowsRejectedMode()
+    {
+        const ScreenConfiguration before{1920, 1080, 1, 50};
+        const DisplayMode wanted{800, 600, 60};
+        QVERIFY(!isRejectedModeLeft(before, before, wanted));
+        QVERIFY(isRejectedModeLeft({1920, 1080, 1, 60}, before, wanted));
+        QVERIFY(isRejectedModeLeft({1920, 1080, 4, 50}, before, wanted)); // upside down
+        QVERIFY(!isRejectedModeLeft({800, 600, 1, 60}, before, wanted));
+        QVERIFY(isRejectedModeLeft({800, 480, 1, 60}, before, wanted));
+    }
+
+    // As the board is wired. The simulated box is built from the table and so agrees with it.
+    void connectors()
+    {
+        QByteArrayList found;
+        for (const auto &[name, ddcBus, ddcSwitch] : CONNECTORS)
+            found << QByteArray(name) + ": " + ddcBus + ", " +
+                         (ddcSwitch ? ddcSwitch : "no switch");
+        QCOMPARE(found.join("; "),
+                 QByteArray("vga: /dev/i2c-2, /sys/class/leds/vga-i2c-enb/brightness; "
+                            "hdmi: /dev/i2c-1, no switch"));
+    }
+
+    void devices()
+    {
+        const LogCapture log;
+        I2CDevice device;
+        QVERIFY(device.CloseDevice());
+        QVERIFY(!device.OpenDevice(m_missing));
+        QCOMPARE(device.GetErrorString(), "Error opening /nowhere/%1. "_s);
+        QVERIFY(device.OpenDevice(m_file.fileName()));
+        QVERIFY(device.OpenDevice(m_missing)); // keeps the first
+        QVERIFY(device.WriteString("1"_s));
+        QCOMPARE(box::read(m_file.fileName()), QByteArray("1"));
+
+        const int descriptor = device.Descriptor();
+        ::close(descriptor);
+        QVERIFY(!device.CloseDevice());
+        QCOMPARE(device.Descriptor(), descriptor);
+        QCOMPARE(device.GetErrorString(), "Close file error. Errno is: 9"_s);
+        QCOMPARE(log.texts("basedevice"_s).join(u'|'),
+                 "C \"Error opening /nowhere/%1. \"|C \"Close file error. Errno is: 9\""_s);
+        QCOMPARE(log.messages().first().function,
+                 "virtual bool BaseDevice::OpenDevice(const QString&)"_s);
+    }
+
+    void framebuffer()
+    {
+        constexpr unsigned long SET_GAMMA = 0x40844628;
+        if (::ioctl(-1, SET_GAMMA) == -1 && errno == ENOSYS)
+            QSKIP("this machine is emulated by something that does not know the request");
+        const LogCapture log;
+        FbDevice *const device = FbDevice::Instance();
+        QVERIFY(device->CloseDevice());
+        QVERIFY(!device->OpenDevice(m_missing));
+        QVERIFY(!device->SetGamma(1.0F));
+        const int descriptor = ::dup(0); // the next that is free
+        ::close(descriptor);
+        QVERIFY(FbDevice::Instance()->OpenDevice(m_file.fileName()));
+        QCOMPARE(::fcntl(descriptor, F_GETFL) & O_ACCMODE, O_RDWR);
+        QVERIFY(device->OpenDevice(m_missing));
+        QVERIFY(!device->GetVarScreenInfo());
+        ::close(descriptor);
+        QVERIFY(!device->CloseDevice());
+        FbDevice::ReleaseInstance(); // tries again
+        QCOMPARE(log.texts("fbdevice"_s).join(u'|'),
+                 "C Error opening \"/nowhere/%1\". |"
+                 "C Ioctl MXCFB_SET_GAMMA fail! Bad file descriptor|"
+                 "C Ioctl FBIOGET_VSCREENINFO fail! Inappropriate ioctl for device|"
+                 "C Close file error. Bad file descriptor|"
+                 "C Close file error. Bad file descriptor"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDisplay)
+#include "tst_display.moc"
