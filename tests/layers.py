@@ -35,8 +35,6 @@ def breaches():
         for included in re.findall(r'^\s*#\s*include\s+["<]([^">]+)', source.read_text(), re.M):
             if place_of(included) not in (None, place, *LAYERS[place]):
                 yield f'{name}: may not include {included}'
-            if place in ('display/monitor/', 'display/edidtool/') and included.startswith('Q'):
-                yield f'{name}: {included} is Qt'
 
 
 sys.exit('\n'.join(breaches()) or None)

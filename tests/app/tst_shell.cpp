@@ -2,8 +2,8 @@
 #include "app/guards/instancelock.h"
 #include "app/guards/keyrepeatguard.h"
 #include "app/shellprofile.h"
-#include "tests/support/box.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/syncedfile.h"
 #include "tests/support/text.h"
 
 #include <QKeyEvent>
@@ -14,19 +14,6 @@
 #include <unistd.h>
 
 using Lock = InstanceLock::Result;
-
-namespace {
-
-QString profile;
-QByteArray synchronised; // what the profile held then
-
-} // namespace
-
-// Found before the C library's.
-extern "C" void sync() noexcept
-{
-    synchronised = box::read(profile);
-}
 
 class TestShell : public QObject
 {
@@ -53,12 +40,12 @@ private slots:
             {"a shorter one", "#export LANG=C\n0123456789\n", zh + "89\n"},
             {"none, after bytes that are no text", noText, noText + zh},
         };
-        profile = m_directory.filePath("profile"_s);
+        syncedFile = m_directory.filePath("profile"_s);
         for (const auto &[name, before, after] : rows) {
-            box::write(profile, before);
-            QVERIFY(writeLocaleLine(profile, zh));
-            QVERIFY2(box::read(profile) == after, name);
-            QVERIFY2(synchronised == after, name);
+            box::write(syncedFile, before);
+            QVERIFY(writeLocaleLine(syncedFile, zh));
+            QVERIFY2(box::read(syncedFile) == after, name);
+            QVERIFY2(syncedContent == after, name);
         }
     }
 
@@ -123,36 +110,31 @@ private slots:
 
     void heldKeys()
     {
-        const struct
-        {
-            const char *does;
-            Qt::Key key;
-            const char *text;
-            bool isRepeated;
-            Qt::KeyboardModifier modifiers = Qt::NoModifier;
-        } rows[] = {
-            {"starts the upgrader", Qt::Key_F12, "", false},
-            {"ends a dialog", Qt::Key_Escape, "\x1b", false},
-            {"presses a button", Qt::Key_Return, "\r", false},
-            {"opens the prompt", Qt::Key_E, "\x05", false, Qt::ControlModifier},
-            {"presses a button by its letter", Qt::Key_Y, "y", false, Qt::AltModifier},
-            {"types a capital", Qt::Key_E, "E", true, Qt::ShiftModifier},
-            {"moves in the list", Qt::Key_Down, "", true},
+        enum Held { Acts, Repeats };
+        const std::tuple<const char *, Held, Qt::Key, Qt::KeyboardModifier, const char *> rows[] = {
+            {"starts the upgrader", Acts, Qt::Key_F12, Qt::NoModifier, ""},
+            {"ends a dialog", Acts, Qt::Key_Escape, Qt::NoModifier, "\x1b"},
+            {"presses a button", Acts, Qt::Key_Return, Qt::NoModifier, "\r"},
+            {"opens the prompt", Acts, Qt::Key_E, Qt::ControlModifier, "e"},
+            {"presses a button by its letter", Acts, Qt::Key_Y, Qt::AltModifier, "y"},
+            {"types a capital", Repeats, Qt::Key_E, Qt::ShiftModifier, "E"},
+            {"moves in the list", Repeats, Qt::Key_Down, Qt::NoModifier, ""},
         };
-        for (const auto &row : rows) {
+        for (const auto &[what, held, key, modifiers, text] : rows) {
             KeyRepeatGuard guard;
-            const auto passes = [&](QEvent::Type type, ulong time, bool isMarked) {
-                QKeyEvent event(type, row.key, row.modifiers, QLatin1String(row.text), isMarked);
-                event.setTimestamp(time);
-                return !guard.eventFilter(this, &event);
-            };
             for (const QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress}) {
                 // Whether or not the toolkit has noticed that the key is held.
                 for (const bool isMarked : {true, false}) {
-                    QVERIFY2(passes(QEvent::KeyRelease, 1660, isMarked), row.does);
-                    QVERIFY2(passes(type, 1660, isMarked) == row.isRepeated, row.does);
+                    QKeyEvent release(QEvent::KeyRelease, key, modifiers, QString(), isMarked);
+                    QKeyEvent press(type, key, modifiers, QLatin1String(text), isMarked);
+                    release.setTimestamp(1660);
+                    press.setTimestamp(1660);
+                    QVERIFY2(!guard.eventFilter(this, &release), what);
+                    QVERIFY2(guard.eventFilter(this, &press) == (held == Acts), what);
                 }
-                QVERIFY2(passes(type, 1790, false), row.does); // pressed again by hand
+                QKeyEvent pressedByHand(type, key, modifiers, QLatin1String(text));
+                pressedByHand.setTimestamp(1790);
+                QVERIFY2(!guard.eventFilter(this, &pressedByHand), what);
             }
         }
     }

@@ -33,17 +33,16 @@ class Start(unittest.TestCase):
         tool = self.start(*arguments)
         return tool, wait_for_window(title)
 
-    @staticmethod
-    def stop(tool, title=TITLE):
-        tool.stop()
+    def stop(self, title=TITLE):
+        self.started[-1].stop()
         wait_until_gone(title)
 
 
 class SingleInstance(Start):
     def test_second_start_ends(self):
         first, _ = self.start_shown()
-        self.assertEqual(self.start().wait_for_end(), 0)
-        self.assertEqual(self.start('--other').wait_for_end(), 0)
+        for arguments in ((), ('--other',)):
+            self.assertEqual(self.start(*arguments).wait_for_end(), 0)
         self.assertEqual(len(driver.find_windows(TITLE)), 1)
         for option in ('-v', '--version'):      # without a display, too
             version = subprocess.run([driver.PROGRAM, option], env={}, stdout=subprocess.PIPE,
@@ -51,18 +50,19 @@ class SingleInstance(Start):
             self.assertRegex(version.stdout, rb'^moniconf 1\.2\.\d{3,4}\.\d{5,6}\n\Z')
         self.assertIsNone(first.process.poll())
         # Nor does one that has crashed keep the next from starting and being the first.
-        self.stop(first)
+        first.stop()
+        wait_until_gone(TITLE)
         self.start_shown()
         self.assertEqual(self.start().wait_for_end(), 0)
 
     def test_something_else_under_the_lock(self):
+        self.addCleanup(LOCK.unlink)
         for make in (lambda: os.mkfifo(LOCK), lambda: LOCK.symlink_to('/dev/zero')):
             LOCK.unlink(missing_ok=True)
             make()
             tool, _ = self.start_shown()
             self.assertTrue(tool.messages('running without a lock'))
-            self.stop(tool)
-        LOCK.unlink()
+            self.stop()
 
     def test_stopped_instance(self):
         self.start_shown()[0].process.send_signal(signal.SIGSTOP)
@@ -103,7 +103,7 @@ class Languages(Start):
             driver.choose(window, 'Factory Reset')
             question = wait_for_window('确认')
             pictures.append(driver.output('import', '-window', question, 'txt:-'))
-            self.stop(tool, '显示设置')
+            self.stop('显示设置')
             english.write_bytes((HOME / 'moniconf_zh_CN.qm').read_bytes())
         self.assertNotEqual(*pictures)
 

@@ -13,6 +13,7 @@
 #include "tests/support/setclock.h"
 
 #include <memory>
+#include <unistd.h>
 
 using box::calls;
 using box::read;

@@ -6,36 +6,30 @@
 
 #include <QByteArray>
 
-class EdidBlock
+class EdidBlock : public QByteArray
 {
 public:
-    EdidBlock() { set(0, "00ffffffffffff00").set(18, "0103"); }
+    EdidBlock()
+        : QByteArray(EDID_BLOCK_SIZE, '\0')
+    {
+        set(0, "00ffffffffffff00").set(18, "0103");
+    }
 
     EdidBlock &set(int offset, const QByteArray &hex)
     {
         const QByteArray bytes = QByteArray::fromHex(hex);
-        m_bytes.replace(offset, bytes.size(), bytes);
+        replace(offset, bytes.size(), bytes);
         return *this;
     }
 
     // A detailed timing in one of the four slots; the clock is in 10 kHz.
     EdidBlock &timing(int slot, int clock, int width, int blankWidth, int height, int blankHeight)
     {
-        char *out = m_bytes.data() + 54 + 18 * slot;
+        char *out = data() + 54 + 18 * slot;
         const int wide = (width >> 8) << 4 | blankWidth >> 8;
         const int high = (height >> 8) << 4 | blankHeight >> 8;
         for (int byte : {clock, clock >> 8, width, blankWidth, wide, height, blankHeight, high})
             *out++ = char(byte);
         return *this;
     }
-
-    const unsigned char *bytes() const
-    {
-        return reinterpret_cast<const unsigned char *>(m_bytes.constData());
-    }
-
-    operator QByteArray() const { return m_bytes; }
-
-private:
-    QByteArray m_bytes = QByteArray(EDID_BLOCK_SIZE, '\0');
 };

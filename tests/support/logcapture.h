@@ -4,7 +4,6 @@
 
 #include <QStringList>
 #include <QVector>
-#include <QtGlobal>
 
 class LogCapture
 {
@@ -25,14 +24,12 @@ public:
     static const QVector<Message> &messages() { return s_messages; }
 
     // The messages of one source file (the toolkit's own have none), each behind a letter: D for
-    // debug, C for critical.
+    // debug, C for what is worse.
     static QStringList texts(const QString &file)
     {
         QStringList result;
         for (const Message &message : qAsConst(s_messages)) {
-            const char *letter = message.type == QtDebugMsg      ? "D "
-                                 : message.type == QtCriticalMsg ? "C "
-                                                                 : "? ";
+            const char *const letter = message.type == QtDebugMsg ? "D " : "C ";
             if (message.file == file)
                 result << QLatin1String(letter) + message.text;
         }
