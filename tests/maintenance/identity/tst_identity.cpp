@@ -46,8 +46,9 @@ private slots:
             {"391WF860"_s, "0, 860"_s},   {"395PL476"_s, "0, 476"_s},
             {"395PL477"_s, "458, 477"_s}, {"527AB0x1"_s, "527, no number"_s},
         };
-        for (const auto &[type, flags] : flagsOfType)
-            rows["%1KH001"_s.arg(type, 3, 10, QLatin1Char('0'))] = "%1, 1"_s.arg(type);
+        for (int number = 0; number < 1000; ++number)
+            rows["%1KH001"_s.arg(number, 3, 10, QLatin1Char('0'))] =
+                "%1, 1"_s.arg(flagsOfType.count(number) == 1 ? number : 458);
         for (const auto &[barcode, wanted] : rows) {
             ProductBarcode::T_Barcode record;
             const bool isWell = ProductBarcode::DecodeBarcode(record, {"a"_s, "b"_s, barcode});
