@@ -28,8 +28,7 @@ inline QByteArray read(const QString &fileName)
 // the lines is recorded when its turn comes.
 inline QString calls()
 {
-    static const QRegularExpression fetching(QStringLiteral("^(i2c|\\w+ switched) .*\n"),
-                                             QRegularExpression::MultilineOption);
+    static const QRegularExpression fetching(QStringLiteral("(?m)^(i2c|\\w+ switched) .*\n"));
     return QString::fromUtf8(read(QStringLiteral("/run/simbox/calls"))).remove(fetching);
 }
 
