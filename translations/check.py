@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Fails when a catalogue lacks a text, has one too many, or translates what has to stay.
+"""Fails when a catalogue lacks a text, has one too many, translates what has to stay, or is the copy of
+another, or when the desktop's entry or the store's has no words in its language.
 
     check.py CATALOGUE... -- LUPDATE...
 
@@ -14,6 +15,8 @@ import sys
 import tempfile
 import xml.etree.ElementTree as ET
 from pathlib import Path
+
+PACKAGING = Path(__file__).resolve().parent.parent / 'packaging'
 
 
 def faults(message):
@@ -47,12 +50,27 @@ def check(catalogue, updated):
             yield f'{context}: "{source}" {fault}'
 
 
+def translated(root):
+    """The translations that differ from their texts."""
+    return {(key, message.findtext('translation')) for key, message in messages(root).items()
+            if message.findtext('translation') != message.findtext('source')}
+
+
 end = sys.argv.index('--')
-found = []
+found, others = [], {}
 with tempfile.TemporaryDirectory() as directory:
     for file in map(Path, sys.argv[1:end]):
         copy = Path(shutil.copy(file, directory))
         subprocess.run([*sys.argv[end + 1:], copy], check=True)
         found += [f'{file.name}: {fault}' for fault in check(file, copy)]
+        own = translated(ET.parse(file).getroot())
+        found += [f'{file.name}: is a copy of {other}' for other, texts in others.items()
+                  if len(own & texts) > len(own) / 2]
+        others[file.name] = own
+        language = file.stem.partition('_')[2]
+        for entry, mark in (('moniconf.desktop', f'Name[{language}]='),
+                            ('invalid.orvex.moniconf.metainfo.xml.in', f'<name xml:lang="{language}">')):
+            if mark not in (PACKAGING / entry).read_text(encoding='utf-8'):
+                found.append(f'{entry}: lacks {mark}')
 print('\n'.join(found) or 'all catalogues are complete')
 sys.exit(1 if found else 0)
