@@ -75,9 +75,8 @@ DialogMain::DialogMain(QWidget *parent)
     , ui(new Ui_DialogMain)
 {
     ui->setupUi(this);
-    // Not translated: the choice is compared with these words, and any other means English.
     for (const Language &language : LANGUAGES)
-        ui->m_cmbLanguage->addItem(QLatin1String(language.item));
+        ui->m_cmbLanguage->addItem(tr(language.item));
     secTimer_timeout();
     m_timer = new QTimer(this);
     createMenu();

@@ -222,6 +222,16 @@
         <source>Please select application</source>
         <translation>请选择应用程序</translation>
     </message>
+    <message>
+        <source>Chinese</source>
+        <extracomment>Stays as it is in every language: the choice is compared with this very word.</extracomment>
+        <translation>Chinese</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <extracomment>Stays as it is in every language: the choice is compared with this very word.</extracomment>
+        <translation>English</translation>
+    </message>
 </context>
 <context>
     <name>DialogPreference</name>
