@@ -61,10 +61,11 @@ int main(int argc, char *argv[])
 
     ModalFocusGuard focusGuard;
     app.installNativeEventFilter(&focusGuard);
-    KeyRepeatGuard repeatGuard;
-    app.installEventFilter(&repeatGuard);
     AnsweredGuard answeredGuard;
     app.installEventFilter(&answeredGuard);
+    // Asked first, so that it sees every release.
+    KeyRepeatGuard repeatGuard;
+    app.installEventFilter(&repeatGuard);
 
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/moniconf.png")));
     DialogMain dialog;

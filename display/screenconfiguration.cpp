@@ -122,5 +122,8 @@ void restoreIfRejectedModeLeft(const std::optional<ScreenConfiguration> &before,
     oxlog::critical(OX_LOG_HERE, QStringLiteral("xrandr has left the rejected mode, %1x%2 %3.")
                                      .arg(QString::number(before->width),
                                           QString::number(before->height), done));
-    waitForScreen(QSize(before->width, before->height));
+    const QSize size(before->width, before->height);
+    const bool isUpright =
+        (before->rotation & (XCB_RANDR_ROTATION_ROTATE_90 | XCB_RANDR_ROTATION_ROTATE_270)) == 0;
+    waitForScreen(isUpright ? size : size.transposed());
 }
