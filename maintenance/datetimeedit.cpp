@@ -15,38 +15,45 @@ void DateTimeEdit::keyPressEvent(QKeyEvent *event)
         dateTimeFromText(QGuiApplication::clipboard()->text().simplified()).isValid())
         lineEdit()->selectAll();
 
-    if (typed.isDigit())
+    if (typed.isDigit()) {
         typeDigit(event);
-    else if (typed.isPrint() && !typed.isLetter())
+    } else if (typed.isPrint() && !typed.isLetter()) {
         typeSeparator();
-    else
+    } else {
         QDateTimeEdit::keyPressEvent(event);
+        if (event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete)
+            rememberTyping(false);
+    }
 }
 
 void DateTimeEdit::typeDigit(QKeyEvent *event)
 {
-    const int section = currentSectionIndex();
-    const QString before = lineEdit()->text();
-    const int place =
-        lineEdit()->hasSelectedText() ? lineEdit()->selectionStart() : lineEdit()->cursorPosition();
-    QDateTimeEdit::keyPressEvent(event);
-    const bool isRefused = lineEdit()->text() == before && currentSectionIndex() == section;
-    if (isRefused && place < before.size() && before.at(place).isDigit()) {
-        lineEdit()->setCursorPosition(place);
+    if (!isStillTyping()) {
+        if (lineEdit()->hasSelectedText())
+            lineEdit()->setCursorPosition(lineEdit()->selectionStart());
         setSelectedSection(currentSection());
-        QDateTimeEdit::keyPressEvent(event);
     }
-    if (currentSectionIndex() != section) {
-        m_steppedText = lineEdit()->text();
-        m_steppedStart = lineEdit()->selectionStart();
-    }
+    const int section = currentSectionIndex();
+    QDateTimeEdit::keyPressEvent(event);
+    rememberTyping(currentSectionIndex() != section);
 }
 
 void DateTimeEdit::typeSeparator()
 {
-    const bool hasStepped =
-        lineEdit()->text() == m_steppedText && lineEdit()->selectionStart() == m_steppedStart;
-    m_steppedText.clear();
-    if (!hasStepped)
+    const bool hasSteppedAlready = isStillTyping() && m_hasStepped;
+    m_typedText.clear();
+    if (!hasSteppedAlready)
         setSelectedSection(sectionAt(currentSectionIndex() + 1));
+}
+
+void DateTimeEdit::rememberTyping(bool hasStepped)
+{
+    m_typedText = lineEdit()->text();
+    m_typedPlace = lineEdit()->cursorPosition();
+    m_hasStepped = hasStepped;
+}
+
+bool DateTimeEdit::isStillTyping() const
+{
+    return lineEdit()->text() == m_typedText && lineEdit()->cursorPosition() == m_typedPlace;
 }

@@ -15,12 +15,16 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    // A digit that there is no room for replaces the part that it is typed before or into.
+    // The first digit behind anything else replaces the part that the cursor is in.
     void typeDigit(QKeyEvent *event);
     // Any separator goes on to the next part, unless a digit has just done so.
     void typeSeparator();
+    void rememberTyping(bool hasStepped);
+    bool isStillTyping() const;
 
-    // The text and the start of the selection, as a digit left them that went on to the next part.
-    QString m_steppedText;
-    int m_steppedStart = -1;
+    // What the last key that typed or erased has left: the text, the cursor's place, and whether
+    // the cursor has gone on to the next part.
+    QString m_typedText;
+    int m_typedPlace = -1;
+    bool m_hasStepped = false;
 };
