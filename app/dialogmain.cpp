@@ -135,7 +135,7 @@ void DialogMain::showError(const QString &text)
 {
     ErrorBox box(*this, tr("Error"), text);
     box.exec();
-    if (box.text() != text)
+    if (box.IsShortened())
         oxlog::critical(OX_LOG_HERE, oxlog::quoted(loggableMessage(text)));
 }
 

@@ -22,7 +22,9 @@ ErrorBox::ErrorBox(QWidget &parent, const QString &title, const QString &text)
     setWindowTitle(title);
     // The text can be another program's.
     setTextFormat(Qt::PlainText);
-    setText(shortenedMessage(text));
+    const QString shown = shortenedMessage(text);
+    m_isShortened = shown != text;
+    setText(shown);
     setStandardButtons(QMessageBox::Ok);
 }
 
@@ -49,6 +51,9 @@ void ErrorBox::fitScreen()
         label->setMinimumWidth(room.width() - (width() - label->width()));
         setText(whole);
     }
-    for (int lines = MOST_MESSAGE_LINES; height() > room.height() && lines > FEWEST_LINES; --lines)
+    for (int lines = MOST_MESSAGE_LINES; height() > room.height() && lines > FEWEST_LINES;
+         --lines) {
         setText(shortenedMessage(whole, lines - 1));
+        m_isShortened = true;
+    }
 }

@@ -3,9 +3,8 @@
 
 #include <QMessageBox>
 
-// A modal box with an error's text and one OK button. A text that the screen cannot take is shown
-// shortened: after exec(), text() is then another than the one given. It opens over its parent, or
-// in the middle of the screen while the parent is not shown yet.
+// A modal box with an error's text, as much of it as the screen can take, and one OK button. It
+// opens over its parent, or in the middle of the screen while the parent is not shown yet.
 class ErrorBox : public QMessageBox
 {
     Q_OBJECT
@@ -13,9 +12,14 @@ class ErrorBox : public QMessageBox
 public:
     ErrorBox(QWidget &parent, const QString &title, const QString &text);
 
+    // Whether the box has shown another text than the one given; known after exec().
+    bool IsShortened() const { return m_isShortened; }
+
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
     void fitScreen();
+
+    bool m_isShortened = false;
 };

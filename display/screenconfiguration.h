@@ -8,7 +8,8 @@
 #include <cstdint>
 #include <optional>
 
-// What the screen shows, in the terms of RandR's requests GetScreenInfo and SetScreenConfig.
+// What the screen shows, in the terms of RandR's requests GetScreenInfo and SetScreenConfig, which
+// know one output, as xrandr -s does.
 struct ScreenConfiguration
 {
     std::uint16_t width; // of the unrotated screen, in pixels, as height

@@ -22,7 +22,8 @@ public:
     void rememberPlace();
 
     // After the switch back: moves the window to that place, and looks again until it stays there,
-    // for some seconds at most. The window manager may still be moving it.
+    // for some seconds at most. The window manager may still be moving it. What the user has moved
+    // meanwhile goes back as well.
     void returnToPlace();
 
 private:

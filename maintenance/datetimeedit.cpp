@@ -11,11 +11,13 @@ void DateTimeEdit::keyPressEvent(QKeyEvent *event)
     const QString text = event->text();
     const QChar typed = text.isEmpty() ? QChar() : text.at(0);
     // A whole date replaces what is shown, not only the part that is selected.
-    if (event->matches(QKeySequence::Paste) &&
-        dateTimeFromText(QGuiApplication::clipboard()->text().simplified()).isValid())
-        lineEdit()->selectAll();
-
-    if (typed.isDigit()) {
+    const QDateTime pasted =
+        event->matches(QKeySequence::Paste)
+            ? dateTimeFromText(QGuiApplication::clipboard()->text().simplified())
+            : QDateTime();
+    if (pasted.isValid()) {
+        setDateTime(pasted);
+    } else if (typed.isDigit()) {
         typeDigit(event);
     } else if (typed.isPrint() && !typed.isLetter()) {
         typeSeparator();

@@ -7,11 +7,12 @@
 
 #include <csignal>
 
-// Holds back the signals that ask a program to end (SIGHUP, SIGINT, SIGTERM) while it lives. One
-// that arrives rejects the modal dialog that is open or opens next, and ends the program when this
-// object is destroyed, as it would have ended it at once. Signals that are ignored, SIGHUP under
-// nohup for one, stay so; and the C library ignores SIGINT while its system() runs a command. Lives
-// on the GUI thread, one at a time.
+// Holds back the signals that ask a program to end (SIGHUP, SIGINT, SIGQUIT, SIGTERM), or end it
+// when nobody reads its log any more (SIGPIPE), while it lives. One that arrives rejects the modal
+// dialog that is open or opens next, and ends the program when this object is destroyed, as it
+// would have ended it at once. Signals that are ignored, SIGHUP under nohup for one, stay so; and
+// the C library ignores SIGINT and SIGQUIT while its system() runs a command. Lives on the GUI
+// thread, one at a time.
 class HeldSignals
 {
 public:
@@ -22,7 +23,7 @@ public:
 private:
     void rejectOpenDialog();
 
-    static constexpr std::array<int, 3> SIGNALS = {SIGHUP, SIGINT, SIGTERM};
+    static constexpr std::array<int, 5> SIGNALS = {SIGHUP, SIGINT, SIGPIPE, SIGQUIT, SIGTERM};
 
     std::array<struct sigaction, SIGNALS.size()> m_before{};
     QSocketNotifier m_arrival;
