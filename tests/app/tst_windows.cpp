@@ -11,91 +11,75 @@
 #include "maintenance/dialogclock.h"
 #include "maintenance/dialogfantempparam.h"
 #include "maintenance/dialogpreference.h"
+#include "tests/support/text.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
-#include <type_traits>
-
 // Takes half as many letters again as English.
 class WordyLanguage : public QTranslator
 {
-public:
+    bool isEmpty() const override { return false; }
+
     QString translate(const char * /*context*/, const char *text, const char * /*comment*/,
                       int /*number*/) const override
     {
         const QString words = QString::fromUtf8(text);
         return words + words.left(words.size() / 2);
     }
-
-    bool isEmpty() const override { return false; }
 };
 
 class TestWindows : public QObject
 {
     Q_OBJECT
 
-    template<typename Window>
-    void hasRoomForItsTexts()
+    static void hasRoomForItsTexts(QWidget &window, const QString &language)
     {
-        Window window(nullptr);
         window.show();
-        for (const auto *part : window.template findChildren<QWidget *>()) {
+        for (const auto *part : window.findChildren<QWidget *>()) {
             const int height = part->heightForWidth(part->width());
             const QSize needed = height < 0 ? part->minimumSizeHint() : QSize(0, height);
-            const QString what = window.windowTitle() + u' ' + part->objectName() + u' ' +
-                                 part->property("text").toString();
+            const QString text = language + u' ' + part->property("text").toString();
             if (part->isVisible() && !qobject_cast<QAbstractSpinBox *>(part->parentWidget()))
-                QVERIFY2(needed.expandedTo(part->size()) == part->size(), qPrintable(what));
+                QVERIFY2(needed.expandedTo(part->size()) == part->size(), qPrintable(text));
         }
-        // The question is the window that comes when the smallest mode may be on the screen: 800 x
-        // 600, less the frame.
-        if constexpr (std::is_same_v<Window, DialogConfirm>)
-            QVERIFY2(window.width() <= 784 && window.height() <= 560,
-                     qPrintable(window.windowTitle()));
     }
 
 private slots:
-    void initTestCase()
-    {
-        if (!QFile::exists(QStringLiteral("/run/simbox/hdmi")))
-            QFAIL("not in the simulated box");
-        installApplicationFont(QStringLiteral("/usr/share/fonts/ttf/msyh.ttf"), 9);
-        GlobalVars::Init();
-    }
-
-    void textsFit_data()
-    {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("a wordy language") << QString();
-        const QDir home(QStringLiteral("/opt/moniconf"));
-        QVERIFY(home.exists(QStringLiteral("moniconf_zh_CN.qm")));
-        for (const QString &file : home.entryList({QStringLiteral("moniconf_*.qm")}))
-            QTest::newRow(qPrintable(file)) << file.section(u'_', 1).section(u'.', 0, 0);
-    }
-
     void textsFit()
     {
-        QFETCH(QString, language);
-        WordyLanguage wordy;
-        QTranslator own;
-        QTranslator toolkit;
-        const QString ownFile = QStringLiteral("/opt/moniconf/moniconf_%1.qm").arg(language);
-        const QString toolkitFile = QStringLiteral("qt_%1.qm").arg(language);
-        if (language.isEmpty())
-            QCoreApplication::installTranslator(&wordy);
-        else
-            QVERIFY(own.load(ownFile) &&
-                    toolkit.load(toolkitFile, qtversions::toolkitTranslationsPath()));
-        QCoreApplication::installTranslator(&toolkit);
-        QCoreApplication::installTranslator(&own);
-        hasRoomForItsTexts<DialogMain>();
-        hasRoomForItsTexts<DialogConfirm>();
-        hasRoomForItsTexts<DialogGamma>();
-        hasRoomForItsTexts<DialogAbout>();
-        hasRoomForItsTexts<DialogClock>();
-        hasRoomForItsTexts<DialogFanTempParam>();
-        hasRoomForItsTexts<DialogPreference>();
+        if (!QFile::exists("/run/simbox/hdmi"_s))
+            QFAIL("not in the simulated box");
+        installApplicationFont("/usr/share/fonts/ttf/msyh.ttf"_s, 9);
+        GlobalVars::Init();
+        QStringList catalogues = QDir("/opt/moniconf"_s).entryList({"moniconf_*.qm"_s});
+        QVERIFY(catalogues.contains("moniconf_zh_CN.qm"_s));
+        for (const QString &catalogue : catalogues << "wordy"_s) {
+            WordyLanguage wordy;
+            QTranslator own;
+            QTranslator toolkit;
+            if (own.load("/opt/moniconf/"_s + catalogue))
+                QVERIFY(toolkit.load(QString(catalogue).replace("moniconf"_s, "qt"_s),
+                                     qtversions::toolkitTranslationsPath()));
+            QCoreApplication::installTranslator(&toolkit);
+            QCoreApplication::installTranslator(&own);
+            if (catalogue == "wordy"_s)
+                QCoreApplication::installTranslator(&wordy);
+            DialogMain window;
+            DialogConfirm question(&window);
+            DialogGamma gamma(&window);
+            DialogAbout about(&window);
+            DialogClock clock(&window);
+            DialogFanTempParam fan(&window);
+            DialogPreference preference(&window);
+            for (QWidget *dialog : QApplication::topLevelWidgets()) {
+                if (qobject_cast<QDialog *>(dialog))
+                    hasRoomForItsTexts(*dialog, catalogue);
+            }
+            // The question comes when the smallest mode may be on the screen: 800 x 600, less the
+            // frame.
+            QVERIFY(question.width() <= 784 && question.height() <= 560);
+        }
     }
 };
 

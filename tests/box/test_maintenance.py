@@ -34,25 +34,23 @@ class Maintenance(unittest.TestCase):
 
     def test_first_answer(self):
         """Only the first of the answers that pile up while the tool is busy is taken."""
-        for opening, title, button, next_button in (
-                (lambda: choose(self.window, 'Fan Setting'), 'Parameter Input Dialog', 40, 130),
-                (lambda: choose(self.window, 'Factory Reset'), 'Query', 40, 130),
-                (lambda: keys('F10'), 'Dialog', 40, 130),
-                (lambda: click(self.window, *driver.APPLY), 'Information', 270, 90)):
-            with self.subTest(title):
-                click_row(self.window, 0)
-                opening()
-                dialog = wait_for_window(title)
-                _, _, width, height = driver.place(dialog)
-                with self.tool.busy():
-                    for from_right in (button, next_button):
-                        click(dialog, width - from_right, height - 20)
-                wait_for_window('Display Settings')
+        for title, opening, from_right, next_from_right in (
+                ('Parameter Input Dialog', lambda: choose(self.window, 'Fan Setting'), 40, 130),
+                ('Query', lambda: choose(self.window, 'Factory Reset'), 40, 130),
+                ('Dialog', lambda: keys('F10'), 40, 130),
+                ('Information', lambda: click(self.window, *driver.APPLY), 270, 90)):
+            click_row(self.window, 0)
+            opening()
+            dialog = wait_for_window(title)
+            _, _, width, height = driver.place(dialog)
+            with self.tool.busy():
+                click(dialog, width - from_right, height - 20)
+                click(dialog, width - next_from_right, height - 20)
+            wait_for_window('Display Settings')
         with self.tool.busy():
             keys('Escape', 'F12')
         self.assertEqual(self.tool.wait_for_end(), 0)
-        self.assertEqual([call for call in calls() if call.startswith(('gamma', 'up', 'fw_set'))],
-                         [])
+        self.assertFalse(calls('gamma') + calls('upgrader') + calls('fw_setenv'))
 
 
 if __name__ == '__main__':
