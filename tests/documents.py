@@ -62,15 +62,14 @@ def changed_files():
 
 
 def options():
-    source, = (text for name, text in TEXTS.items() if name.endswith('/moniconf-edid.cpp'))
-    for option in re.findall(r'{"(\w+)", \w+_argument', source):
+    for option in re.findall(r'{"(\w+)", \w+_argument', TEXTS['display/edidtool/moniconf-edid.cpp']):
         yield from lacking(f'--{option}', 'packaging/moniconf-edid.1.in', 'README.md')
 
 
-def headings(page):
-    """The anchors that a page's headings have in links."""
+def anchors(text):
+    """What a page's headings are called in links."""
     return [re.sub(r'[^\w -]', '', title.lower()).replace(' ', '-')
-            for title in re.findall(r'^#+ (.*)', page.read_text(encoding='utf-8'), re.M)]
+            for title in re.findall(r'^#+ (.*)', text, re.M)]
 
 
 def links():
@@ -78,7 +77,7 @@ def links():
         for link in re.findall(r'\]\(([^)]+)\)', text):
             file, _, anchor = link.partition('#')
             target = (ROOT / page).parent / file if file else ROOT / page
-            if not target.exists() or anchor and anchor not in headings(target):
+            if not target.exists() or anchor and anchor not in anchors(target.read_text('utf-8')):
                 yield f'{page}: {link} is not there'
     yield from (f'{name}: {page} is not there' for name, text in TEXTS.items()
                 for page in re.findall(r'\bdocs/[\w.]+\.md\b', text) if page not in PAGES)
@@ -89,16 +88,13 @@ def names():
     tops = {name.split('/')[0] for name in TEXTS if '/' in name}
     known = {Path(name).name for name in TEXTS}.union(
         *(re.findall(r'[\w-]+', text) for name, text in TEXTS.items() if name not in PAGES))
-    targets = set(' '.join(re.findall(r'^([\w -]+):', TEXTS['Makefile'], re.M)).split())
+    targets = ' '.join(re.findall(r'^([\w -]+):', TEXTS['Makefile'], re.M)).split()
     for page, text in PAGES.items():
-        code = re.findall(r'`([^`\n]+)`', text) + re.findall(r'^    (.*)', text, re.M)
-        words = [word for span in code for word in span.split() if '/' in word]
-        wrong = [f'make {target}' for span in code
-                 for target in re.findall(r'\bmake ([a-z][\w-]*)', span) if target not in targets]
-        wrong += [word for word in words if word.split('/')[0] in tops
-                  and not [*ROOT.glob(word), *ROOT.glob(word + '.*')]]
-        wrong += [word for word in re.findall(
-            r'`(\w[\w-]*(?:\.(?:cpp|h|md|py|sh|ts|txt|ui))?)[` ]', text) if word not in known]
+        code = '\n'.join(map(''.join, re.findall(r'`([^`\n]+)`|^    (.*)', text, re.M)))
+        wrong = set(re.findall(r'\bmake ([a-z][\w-]*)', code)).difference(targets)
+        wrong.update(word for word in code.split() if '/' in word and word.split('/')[0] in tops
+                     and not [*ROOT.glob(word), *ROOT.glob(word + '.*')])
+        wrong.update({*re.findall(r'`(\w[\w-]*(?:\.(?:cpp|h|md|py|sh|ts|txt|ui))?)[` ]', text)} - known)
         yield from (f'{page}: {word} is not there' for word in wrong)
 
 

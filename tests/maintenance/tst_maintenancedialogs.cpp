@@ -204,7 +204,7 @@ private slots:
              "# Degrees\ntemp_threshold_lower=80\n\nother=1\ntemp_threshold_upper=70"},
             {"temp_threshold_upper=4294967295\ntemp_threshold_lower=0x3c", "Return, Return"_s,
              "1, 100"_s + told, "temp_threshold_upper=100\ntemp_threshold_lower=1"},
-            {"temp_threshold_lower=7 \n\n", "9 Tab 9 Escape"_s, "7, 1"_s,
+            {"temp_threshold_lower=7 \n\n", "9 Tab 9 Tab Tab Space"_s, "7, 1"_s,
              "temp_threshold_lower=7 \n\n"},
         };
         for (const auto &[before, keys, says, after] : rows) {
@@ -229,7 +229,7 @@ private slots:
             {NOTHING, "Right Return"_s, NOTHING, "vexastd"_s, "vxotp.desktop"_s, set + "1\n"_s},
             {set + "2\n"_s, "Left Return"_s, NOTHING, "vxotp"_s, "vexastd.desktop"_s,
              set + "0\n"_s},
-            {set + "x\n"_s, "Right Escape"_s, NOTHING, "vexastd"_s, links, set + "x\n"_s},
+            {set + "x\n"_s, "Right Tab Tab Space"_s, NOTHING, "vexastd"_s, links, set + "x\n"_s},
             {"AutoStartApp=1\n"_s, "Escape"_s, NOTHING, "vexastd"_s, links, "AutoStartApp=1\n"_s},
             {set + "1\n"_s, "Left Return, Return"_s,
              "cd /etc/xdg/autostart; rm vexastd*; touch vexastd.desktop"_s, "vxotp"_s + failed,
@@ -271,7 +271,7 @@ private slots:
             {"2.25 Return"_s, "1.0|106 "_s + key + "2.25"_s,
              "gamma 1 0 511 511 509 501 29 80 115 141 161 179 194 208 221 233 244 "
              "0 16 16 24 40 51 35 26 20 18 15 14 13 12 11 11\n"_s},
-            {"3 Escape"_s, "2.3"_s, NOTHING},
+            {"3 Tab Tab Space"_s, "2.3"_s, NOTHING},
             {"2,2 Return, Return"_s, "2.3"_s + nonsense, zero},
             {"1e39 Return, Return"_s, "0.0"_s + nonsense, zero},
         };
