@@ -160,7 +160,7 @@ private slots:
         const QByteArray both = read("://calclock.sh"_s) + read("://autobootapp.sh"_s);
         QCOMPARE(QCryptographicHash::hash(both, QCryptographicHash::Sha1).toHex(),
                  QByteArray("a689a66b5dee148d7d5bd486829ff790f9e7ac86"));
-        QGuiApplication::clipboard()->setText("2027-03-15 08:30:59"_s);
+        QGuiApplication::clipboard()->setText("2027-03-15 08:30:59\n"_s);
         const QByteArray rows[][4] = {
             // The keys, what is in the way; then the date that is set, and what is told or logged.
             {"Return", "", "2026-01-31 23:10:20", ""},
@@ -170,6 +170,7 @@ private slots:
             {"Ctrl+A 2027-2-3 Space 4:5:6 Return", "", "2027-02-03 04:05:06", ""},
             {"2027/2/3 Space 4.5.6 Return", "", "2027-02-03 04:05:06", ""},
             {"Ctrl+V Return", "", "2027-03-15 08:30:59", ""},
+            {"End 07 Return", "", "2026-01-31 23:10:07", ""},
             {"2027--15 Return", "", "2027-01-15 23:10:20", ""}, // the month stays
             {"Escape", "", "", ""},
             {"Return", "rm -f /tmp/calclock.sh; mkdir -p /tmp/calclock.sh/x", "",
