@@ -38,7 +38,7 @@ check-qt6:
 	cmake --build --preset qt6 -j $(JOBS)
 	ctest --test-dir build/qt6 --output-on-failure -j $(JOBS)
 
-# A picture of every window in both languages, and those of README and manuals, of a program whose
+# A picture of every window in each language, and those of README and manuals, of a program whose
 # version is always the same.
 screenshots: export SOURCE_DATE_EPOCH := 1768441287
 screenshots: packages

@@ -17,6 +17,6 @@ def rows(file, table):
 
 CONNECTORS = rows('display/connectors.h', 'CONNECTORS')     # name, bus, switch or None
 MODES = [text.split('@')[0] for text, in rows('display/monitor/modes.h', 'ALL_RESOLUTIONS')]
-LOCALES = [line.split('=')[1].split('.')[0]
-           for *_, line in rows('app/languages.h', 'LANGUAGES')]
+LANGUAGES = [row[-2:] for row in rows('app/languages.h', 'LANGUAGES')]      # item, locale line
+LOCALES = [line.split('=')[1].split('.')[0] for _, line in LANGUAGES]
 MENU = [text for text, in rows('app/dialogmain.cpp', 'DialogMain::MENU')]

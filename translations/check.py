@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Fails when a catalogue lacks a text, has one too many, translates what has to stay, or is the copy of
-another, or when the desktop's entry or the store's has no words in its language.
+"""Fails when a catalogue lacks a text, has one too many, translates what has to stay, is English or
+another's copy, or when the desktop's entry or the store's has no words in its language.
 
     check.py CATALOGUE... -- LUPDATE...
 
@@ -17,6 +17,10 @@ import xml.etree.ElementTree as ET
 from pathlib import Path
 
 PACKAGING = Path(__file__).resolve().parent.parent / 'packaging'
+STORE = 'invalid.orvex.moniconf.metainfo.xml.in'
+WORDS = (('moniconf.desktop', 'Name[{}]='), ('moniconf.desktop', 'Comment[{}]='),
+         ('moniconf.desktop', 'Keywords[{}]='), (STORE, '<name xml:lang="{}">'),
+         (STORE, '<summary xml:lang="{}">'))
 
 
 def faults(message):
@@ -63,14 +67,14 @@ with tempfile.TemporaryDirectory() as directory:
         copy = Path(shutil.copy(file, directory))
         subprocess.run([*sys.argv[end + 1:], copy], check=True)
         found += [f'{file.name}: {fault}' for fault in check(file, copy)]
-        own = translated(ET.parse(file).getroot())
+        root = ET.parse(file).getroot()
+        own = translated(root)
         found += [f'{file.name}: is a copy of {other}' for other, texts in others.items()
-                  if len(own & texts) > len(own) / 2]
+                  if len(own & texts) > len(own) / 4]
+        if len(own) < len(messages(root)) / 2:
+            found.append(f'{file.name}: most of it is English')
         others[file.name] = own
-        language = file.stem.partition('_')[2]
-        for entry, mark in (('moniconf.desktop', f'Name[{language}]='),
-                            ('invalid.orvex.moniconf.metainfo.xml.in', f'<name xml:lang="{language}">')):
-            if mark not in (PACKAGING / entry).read_text(encoding='utf-8'):
-                found.append(f'{entry}: lacks {mark}')
+        found += [f'{entry}: lacks {mark.format(root.get("language"))}' for entry, mark in WORDS
+                  if mark.format(root.get('language')) not in (PACKAGING / entry).read_text('utf-8')]
 print('\n'.join(found) or 'all catalogues are complete')
 sys.exit(1 if found else 0)

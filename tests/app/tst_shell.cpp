@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/guards/instancelock.h"
 #include "app/guards/keyrepeatguard.h"
+#include "app/languages.h"
 #include "app/shellprofile.h"
 #include "app/shortenedmessage.h"
 #include "tests/support/logcapture.h"
@@ -25,8 +26,13 @@ class TestShell : public QObject
 private slots:
     void localeLines()
     {
-        QCOMPARE(localeLine("Chinese"_s), QByteArray("export LANG=zh_CN.UTF-8"));
-        QCOMPARE(localeLine("English"_s), QByteArray("export LANG=en_US.UTF-8"));
+        QStringList lines;
+        for (const Language &language : LANGUAGES) {
+            const QString item = QLatin1String(language.item);
+            lines << item + ": "_s + QString::fromLatin1(localeLine(item));
+        }
+        QCOMPARE(lines.join(u'|'),
+                 "Chinese: export LANG=zh_CN.UTF-8|English: export LANG=en_US.UTF-8"_s);
         QCOMPARE(localeLine("chinese"_s), QByteArray("export LANG=en_US.UTF-8"));
     }
 

@@ -3,6 +3,7 @@
 // density of the screen.
 #include "app/dialogmain.h"
 #include "app/globalvars.h"
+#include "app/languages.h"
 #include "app/startup.h"
 #include "display/dialogconfirm.h"
 #include "display/dialoggamma.h"
@@ -65,6 +66,10 @@ private slots:
             QCoreApplication::installTranslator(&own);
             if (catalogue == "wordy"_s)
                 QCoreApplication::installTranslator(&wordy);
+            // The choice of a language is compared with the English word.
+            for (const Language &language : LANGUAGES)
+                QVERIFY(catalogue == "wordy"_s ||
+                        DialogMain::tr(language.item) == QLatin1String(language.item));
             DialogMain window;
             DialogConfirm question(&window);
             DialogGamma gamma(&window);
