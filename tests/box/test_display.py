@@ -2,7 +2,6 @@
 # SPDX-License-Identifier: MIT
 """Modes, through the real window: chosen, kept, taken back."""
 
-import contextlib
 import signal
 import subprocess
 import time
@@ -28,17 +27,6 @@ class Display(unittest.TestCase):
         click_row(window, row)
         click(window, *APPLY, times=times, delay=120)
         return wait_for_window('Information')
-
-    @contextlib.contextmanager
-    def stand_in(self, command, action):
-        """Has a command do something of the test's before its own work."""
-        script = Path('/usr/local/bin', command)
-        own = script.read_text()
-        script.write_text(own.replace('\n', f'\n{action}\n', 1))
-        try:
-            yield
-        finally:
-            script.write_text(own)
 
     @staticmethod
     def is_on_screen(window):
@@ -100,22 +88,24 @@ class Display(unittest.TestCase):
                 (signal.SIGTERM, 'xrandr', 'true', before),
                 (signal.SIGTERM, 'fw_setenv', 'true', new),
                 (signal.SIGTERM, 'fw_setenv', 'exit 1', (before[0], new[1]))):
-            with self.subTest(number, command=command, end=end), contextlib.ExitStack() as stack:
-                pid = self.tool.process.pid
-                if command:
-                    stack.enter_context(
-                        self.stand_in(command, f'kill -{int(number)} {pid} 2>/dev/null; {end}'))
+            with self.subTest(number, command=command, end=end):
+                tool = self.tool.process
+                if command:     # sends the signal before its own work
+                    script = Path('/usr/local/bin', command)
+                    self.addCleanup(script.write_text, script.read_text())
+                    script.write_text(script.read_text().replace(
+                        '\n', f'\nkill -{int(number)} {tool.pid} 2>/dev/null; {end}\n', 1))
                 window = wait_for_window('Display Settings')
                 click_row(window, 0)
                 click(window, *APPLY)
                 if command != 'xrandr':
                     wait_for_window('Information')
-                    if command:
-                        keys('Tab', 'space')
-                    else:
-                        self.tool.process.send_signal(number)
+                if command == 'fw_setenv':
+                    keys('Tab', 'space')
+                elif not command:
+                    tool.send_signal(number)
                 self.assertEqual(self.tool.wait_for_end(), -number)
-                stack.close()
+                self.doCleanups()
                 self.assertEqual((stored_mode(), screen_size()), left)
             self.setUp()
 

@@ -19,12 +19,7 @@ import tables  # noqa: E402
 from driver import keys, wait_for, wait_for_window, wait_until_gone  # noqa: E402
 
 HOME = Path('/opt/moniconf')
-SHELL = Path('/usr/local/bin/sh')
 LOG = Path('/tmp/entry.log')
-
-
-def dpkg(*words):
-    subprocess.run(['dpkg', *words], capture_output=True, check=True)
 
 
 def launch(entry):
@@ -47,8 +42,7 @@ class Package(unittest.TestCase):
         self.assertRegex(driver.output('/usr/bin/moniconf', '-v'), r'^moniconf 1\.2\.')
 
         # As on Debian, where sh cannot run the script behind Preference.
-        SHELL.unlink()
-        SHELL.symlink_to('/usr/bin/dash')
+        subprocess.run(['ln', '-sf', '/usr/bin/dash', '/usr/local/bin/sh'], check=True)
 
         entry = next(str(file) for file in files if file.suffix == '.desktop')
         self.assertTrue(launch(entry))
@@ -71,10 +65,10 @@ class Package(unittest.TestCase):
 
         settings = HOME / 'ui.ini'
         for step in ('--install', sys.argv[1]), ('--remove', 'moniconf'):
-            dpkg(*step)
+            driver.output('dpkg', *step)
             self.assertEqual(settings.read_text(), '[Preference]\nAutoStartApp=1\n')
         self.assertEqual(list(HOME.iterdir()), [settings])
-        dpkg('--purge', 'moniconf')
+        driver.output('dpkg', '--purge', 'moniconf')
         self.assertEqual([file for file in files if file.exists() or file.is_symlink()], [])
         self.assertFalse(HOME.exists())
 
