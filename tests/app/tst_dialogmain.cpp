@@ -267,9 +267,9 @@ private slots:
                     pressButton(choice, QDialogButtonBox::Cancel);
                 };
             };
-            const auto confirm = [](QWidget *query) { pressButton(query, QDialogButtonBox::Yes); };
-            const ModalAnswers modal({cancel(isOtp ? "vexastd vxotp"_s : "vexastd"_s), confirm,
-                                      cancel("vexastd vxotp"_s)});
+            const auto agree = [](QWidget *query) { pressButton(query, QDialogButtonBox::Yes); };
+            const QString offered = isOtp ? "vexastd vxotp"_s : "vexastd"_s;
+            const ModalAnswers modal({cancel(offered), agree, cancel("vexastd vxotp"_s)});
             actions[0]->trigger();
             actions[3]->trigger();
             QCOMPARE(calls(), QString());
@@ -319,7 +319,7 @@ private slots:
     void storedModes()
     {
         const QString rows[][4] = {
-            // stored, selected, logged, told
+            // stored, selected, logged of the stored one and of the selected one, told
             {"800x600M@75"_s, "800 x 600"_s, "D 800x600@75, D 800x600@60"_s, ""_s},
             {"1280x960"_s, ""_s, "D 1280x960@60"_s, ""_s},
             {"800x600@"_s, ""_s, "D 800x600@0"_s, NO_MODE},
