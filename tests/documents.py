@@ -54,6 +54,16 @@ def log_messages():
     yield from (f'{INTEGRATION} has {position}, which is no position' for position in rows)
 
 
+def product():
+    """What the program's sources name: files of the box, and windows, whose texts a test looks at."""
+    for name, source in TEXTS.items():
+        if name.startswith(('app/', 'display/', 'maintenance/')):
+            for path in re.findall(r'"(/(?:dev|etc|home|sys|usr)/[\w./-]+)"', source):
+                yield from lacking(path, INTEGRATION)
+            for window in re.findall(r'<class>(\w+)</class>\n <widget', source):
+                yield from lacking(f'{window} ', 'tests/app/tst_windows.cpp')
+
+
 def changed_files():
     shown = re.findall(r"'((?:etc|opt|usr)/.*?)'", str(SHOWN))
     for name in (*SETTINGS, *shown, 'etc/xdg/autostart'):
@@ -85,6 +95,8 @@ def links():
             target = (ROOT / page).parent / file if file else ROOT / page
             if not target.exists() or anchor and anchor not in anchors(target.read_text('utf-8')):
                 yield f'{page}: {link} is not there'
+    yield from (f'no page shows {picture}' for picture in TEXTS if picture.startswith('docs/images')
+                and picture.partition('/')[2] not in ' '.join(PAGES.values()))
     yield from (f'{name}: {page} is not there' for name, text in TEXTS.items()
                 for page in re.findall(r'\bdocs/[\w.]+\.md\b', text) if page not in PAGES)
 
@@ -104,7 +116,7 @@ def names():
         yield from (f'{page}: {word} is not there' for word in wrong)
 
 
-found = [fault for check in (messages, log_messages, changed_files, languages, options, links, names)
+found = [fault for check in (messages, log_messages, product, changed_files, languages, options, links, names)
          for fault in check()]
 print('\n'.join(found) or 'the documents agree with the code')
 sys.exit(1 if found else 0)
