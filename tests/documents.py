@@ -10,7 +10,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / 'simbox'))
 from files import SETTINGS, SHOWN  # noqa: E402
-from tables import LANGUAGES, MENU  # noqa: E402
+from tables import CONNECTORS, LANGUAGES, MENU  # noqa: E402
 
 TEXTS = {path.relative_to(ROOT).as_posix(): path.read_text(encoding='utf-8', errors='replace')
          for top in ROOT.iterdir() if top.name not in ('.git', 'build')
@@ -71,7 +71,11 @@ def changed_files():
             yield from lacking(part, INTEGRATION, MAN_PAGE)
 
 
-def languages():
+def tables():
+    for name, _, switch in CONNECTORS:
+        yield from lacking(name.upper(), 'docs/manual.md', 'docs/manual.zh_CN.md', 'docs/compatibility.md')
+        yield from lacking(switch or '', 'packaging/moniconf-edid.1.in',
+                           'display/edidtool/moniconf-edid.cpp')
     for item, line in LANGUAGES:
         yield from lacking(item, 'docs/manual.md', 'docs/manual.zh_CN.md', 'docs/compatibility.md')
         yield from lacking(f'`{line}`', INTEGRATION)
@@ -116,7 +120,7 @@ def names():
         yield from (f'{page}: {word} is not there' for word in wrong)
 
 
-found = [fault for check in (messages, log_messages, product, changed_files, languages, options, links, names)
+found = [fault for check in (messages, log_messages, product, changed_files, tables, options, links, names)
          for fault in check()]
 print('\n'.join(found) or 'the documents agree with the code')
 sys.exit(1 if found else 0)
