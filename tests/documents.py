@@ -17,6 +17,7 @@ TEXTS = {path.relative_to(ROOT).as_posix(): path.read_text(encoding='utf-8', err
          for path in (top, *top.rglob('*')) if path.is_file()}
 PAGES = {name: text for name, text in TEXTS.items() if name.endswith('.md')}
 INTEGRATION, MAN_PAGE = 'docs/integration.md', 'packaging/moniconf.1.in'
+EDID_PROGRAM = 'display/edidtool/moniconf-edid.cpp'
 
 
 def lacking(what, *pages):
@@ -64,25 +65,21 @@ def product():
                 yield from lacking(f'{window} ', 'tests/app/tst_windows.cpp')
 
 
-def changed_files():
-    shown = re.findall(r"'((?:etc|opt|usr)/.*?)'", str(SHOWN))
-    for name in (*SETTINGS, *shown, 'etc/xdg/autostart'):
-        for part in name.rsplit('/', 1) if name.endswith('.ini') else [name]:
-            yield from lacking(part, INTEGRATION, MAN_PAGE)
-
-
 def tables():
     for name, _, switch in CONNECTORS:
         yield from lacking(name.upper(), 'docs/manual.md', 'docs/manual.zh_CN.md', 'docs/compatibility.md')
-        yield from lacking(switch or '', 'packaging/moniconf-edid.1.in',
-                           'display/edidtool/moniconf-edid.cpp')
+        yield from lacking(switch or '', 'packaging/moniconf-edid.1.in', EDID_PROGRAM)
     for item, line in LANGUAGES:
         yield from lacking(item, 'docs/manual.md', 'docs/manual.zh_CN.md', 'docs/compatibility.md')
         yield from lacking(f'`{line}`', INTEGRATION)
 
 
-def options():
-    for option in re.findall(r'{"(\w+)", \w+_argument', TEXTS['display/edidtool/moniconf-edid.cpp']):
+def files_and_options():
+    shown = re.findall(r"'((?:etc|opt|usr)/.*?)'", str(SHOWN))
+    for name in (*SETTINGS, *shown, 'etc/xdg/autostart'):
+        for part in name.rsplit('/', 1) if name.endswith('.ini') else [name]:
+            yield from lacking(part, INTEGRATION, MAN_PAGE)
+    for option in re.findall(r'{"(\w+)", \w+_argument', TEXTS[EDID_PROGRAM]):
         yield from lacking(f'--{option}', 'packaging/moniconf-edid.1.in', 'README.md')
 
 
@@ -116,11 +113,12 @@ def names():
         wrong = set(re.findall(r'\bmake ([a-z][\w-]*)', code)).difference(targets)
         wrong.update(word for word in code.split() if '/' in word and word.split('/')[0] in tops
                      and not [*ROOT.glob(word), *ROOT.glob(word + '.*')])
-        wrong.update({*re.findall(r'`(\w[\w-]*(?:\.(?:cpp|h|md|py|sh|ts|txt|ui))?)[` ]', text)} - known)
+        wrong.update({*re.findall(
+            r'`(\w[\w-]*(?:\.(?:cpp|h|md|py|sh|ts|txt|ui))?)[` ]', text)} - known)
         yield from (f'{page}: {word} is not there' for word in wrong)
 
 
-found = [fault for check in (messages, log_messages, product, changed_files, tables, options, links, names)
+found = [fault for check in (messages, log_messages, product, tables, files_and_options, links, names)
          for fault in check()]
 print('\n'.join(found) or 'the documents agree with the code')
 sys.exit(1 if found else 0)

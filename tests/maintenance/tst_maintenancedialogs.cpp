@@ -37,11 +37,10 @@ QString whole(const QLabel &label)
 // labels that are not the form's own say.
 QString shown(QWidget *dialog)
 {
-    const char *const kinds[] = {"", "information", "warning", "critical", "question"};
+    const char *const kinds[] = {"", "information ", "warning ", "critical ", "question "};
     if (const auto *box = qobject_cast<QMessageBox *>(dialog))
-        return "%1 %2: %3"_s.arg(QLatin1String(kinds[box->icon()]), box->windowTitle(),
-                                 box->text());
-    static const QRegularExpression filled("^(m_)?lbl"_s);
+        return QLatin1String(kinds[box->icon()]) + box->windowTitle() + ": "_s + box->text();
+    const QRegularExpression filled("^(m_)?lbl"_s);
     QStringList fields;
     for (const auto *part : dialog->findChildren<QWidget *>()) {
         const auto *label = qobject_cast<const QLabel *>(part);
@@ -83,11 +82,9 @@ class TestMaintenanceDialogs : public QObject
                 qInfo().noquote() << shown(dialog);
                 QCOMPARE(std::system(meanwhile), 0);
                 setClock(QDateTime::currentDateTime().addSecs(5));
-                for (const QByteArray &word : answer.split(' ')) {
-                    if (std::isupper(word.at(0)))
-                        QTest::keySequence(dialog->focusWidget(), QString::fromLatin1(word));
-                    else
-                        QTest::keyClicks(dialog->focusWidget(), QString::fromLatin1(word));
+                for (const QString &word : QString::fromLatin1(answer).split(u' ')) {
+                    word.at(0).isUpper() ? QTest::keySequence(dialog->focusWidget(), word)
+                                         : QTest::keyClicks(dialog->focusWidget(), word);
                 }
             });
         }
@@ -104,11 +101,11 @@ class TestMaintenanceDialogs : public QObject
             QTest::keySequence(m_window.get(), QString::fromLatin1(what));
         QStringList seen;
         for (const auto &[type, file, line, function, text] : log.messages()) {
+            const QString place = type == QtDebugMsg ? QString::number(line) + u' ' : QString();
             if (type == QtInfoMsg)
                 seen << text;
             else if (type == QtCriticalMsg || file == "dialogmain"_s)
-                seen << (type == QtDebugMsg ? QString::number(line) + u' ' : QString()) + function +
-                            ": "_s + text;
+                seen << place + function + ": "_s + text;
         }
         return seen.join(u'|').toUtf8();
     }
