@@ -55,7 +55,7 @@ private:
         } else if (m_sinceLast.hasExpired(m_timeoutMs)) {
             dialog->close();
             const QString what = dialog->windowTitle() + u' ' + dialog->property("text").toString();
-            QVERIFY2(false, qPrintable(QStringLiteral("nobody answers, or closes, ") + what));
+            QFAIL(qPrintable(QStringLiteral("nobody answers, or closes, ") + what));
         }
     }
 
@@ -70,7 +70,6 @@ private:
 inline void pressButton(QWidget *dialog, QDialogButtonBox::StandardButton which)
 {
     const auto *box = dialog->findChild<QDialogButtonBox *>();
-    QPushButton *const button = box ? box->button(which) : nullptr;
-    QVERIFY2(button, "no such button");
-    button->click();
+    QVERIFY2(box && box->button(which), "no such button");
+    box->button(which)->click();
 }
