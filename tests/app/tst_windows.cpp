@@ -34,18 +34,6 @@ class TestWindows : public QObject
 {
     Q_OBJECT
 
-    static void hasRoomForItsTexts(QWidget &window, const QString &language)
-    {
-        window.show();
-        for (const auto *part : window.findChildren<QWidget *>()) {
-            const int height = part->heightForWidth(part->width());
-            const QSize needed = height < 0 ? part->minimumSizeHint() : QSize(0, height);
-            const QString text = language + u' ' + part->property("text").toString();
-            if (part->isVisible() && !qobject_cast<QAbstractSpinBox *>(part->parentWidget()))
-                QVERIFY2(needed.expandedTo(part->size()) == part->size(), qPrintable(text));
-        }
-    }
-
 private slots:
     void textsFit()
     {
@@ -59,17 +47,16 @@ private slots:
             WordyLanguage wordy;
             QTranslator own;
             QTranslator toolkit;
-            if (own.load("/opt/moniconf/"_s + catalogue))
-                QVERIFY(toolkit.load(QString(catalogue).replace("moniconf"_s, "qt"_s),
-                                     qtversions::toolkitTranslationsPath()));
+            const bool isWordy = catalogue == "wordy"_s;
+            QVERIFY(isWordy || own.load("/opt/moniconf/"_s + catalogue));
+            QVERIFY(isWordy || toolkit.load(QString(catalogue).replace("moniconf"_s, "qt"_s),
+                                            qtversions::toolkitTranslationsPath()));
             QCoreApplication::installTranslator(&toolkit);
-            QCoreApplication::installTranslator(&own);
-            if (catalogue == "wordy"_s)
-                QCoreApplication::installTranslator(&wordy);
+            QCoreApplication::installTranslator(isWordy ? static_cast<QTranslator *>(&wordy)
+                                                        : &own);
             // The choice of a language is compared with the English word.
             for (const Language &language : LANGUAGES)
-                QVERIFY(catalogue == "wordy"_s ||
-                        DialogMain::tr(language.item) == QLatin1String(language.item));
+                QVERIFY(isWordy || DialogMain::tr(language.item) == QLatin1String(language.item));
             DialogMain window;
             DialogConfirm question(&window);
             DialogGamma gamma(&window);
@@ -77,9 +64,14 @@ private slots:
             DialogClock clock(&window);
             DialogFanTempParam fan(&window);
             DialogPreference preference(&window);
-            for (QWidget *dialog : QApplication::topLevelWidgets()) {
-                if (qobject_cast<QDialog *>(dialog))
-                    hasRoomForItsTexts(*dialog, catalogue);
+            for (QWidget *dialog : QApplication::topLevelWidgets())
+                dialog->setVisible(qobject_cast<QDialog *>(dialog));
+            for (const auto *part : QApplication::allWidgets()) {
+                const int height = part->heightForWidth(part->width());
+                const QSize needed = height < 0 ? part->minimumSizeHint() : QSize(0, height);
+                const QString text = catalogue + u' ' + part->property("text").toString();
+                if (part->isVisible() && !qobject_cast<QAbstractSpinBox *>(part->parentWidget()))
+                    QVERIFY2(needed.expandedTo(part->size()) == part->size(), qPrintable(text));
             }
             // The question comes when the smallest mode may be on the screen: 800 x 600, less the
             // frame.
