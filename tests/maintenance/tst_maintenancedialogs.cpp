@@ -47,7 +47,8 @@ QString shown(QWidget *dialog)
         if (part->inherits("QLineEdit") || part->property("checked").toBool())
             fields << part->property("text").toString();
         else if (label && label->isVisible() && label->objectName().contains(filled))
-            fields << (label->property("pixmap").isNull() ? whole(*label) : "picture"_s);
+            fields << (label->property("pixmap").value<QPixmap>().isNull() ? whole(*label)
+                                                                           : "picture"_s);
     }
     return dialog->windowTitle() + ": "_s + fields.join(", "_s);
 }
