@@ -66,7 +66,6 @@ private slots:
             {"mkfifo lock", Lock::Unusable},
             {"ln -s other lock", Lock::Unusable},
             {"ln other lock", Lock::Unusable},
-            {"mkdir lock", Lock::Unusable},
             // Needs the superuser, and else leaves the file to its owner.
             {"touch lock; chown 65534 lock || true", getuid() == 0 ? Lock::Unusable : Lock::Taken},
         };

@@ -126,7 +126,9 @@ private slots:
     {
         const QString program = m_directory.filePath("program"_s);
         box::write(program, "[ \"$*\" = -v ] && echo program 1.2.3 of today");
+        waits.clear();
         QCOMPARE(Utils::GetProgramVersion("sh "_s + program), "1.2.3"_s);
+        QVERIFY(waits.first() == 3 && waits.contains(5));
         QCOMPARE(Utils::GetProgramVersion("false"_s), QString());
         const LogCapture log;
         QString mountPoint;
