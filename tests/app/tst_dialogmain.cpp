@@ -12,7 +12,6 @@
 #include "tests/support/modal.h"
 #include "tests/support/text.h"
 
-#include <csignal>
 #include <cstdio>
 #include <memory>
 
@@ -54,7 +53,7 @@ QString newCalls()
 {
     const QString all = calls();
     box::forgetCalls();
-    return all;
+    return all.trimmed();
 }
 
 // What the monitors' lines have seen: "vga on, vga failed 3 times, hdmi answered, vga off".
@@ -75,10 +74,10 @@ QString transfers()
 QString logged()
 {
     QStringList found;
-    for (const LogCapture::Message &message : LogCapture::messages()) {
-        const QString kind = message.type == QtCriticalMsg ? "critical"_s : "debug"_s;
-        if (message.file == "dialogmain"_s && !message.text.contains("0x"_s))
-            found << "%1 dialogmain:%2 %3"_s.arg(kind, QString::number(message.line), message.text);
+    for (const auto &[type, file, line, function, text] : LogCapture::messages()) {
+        if (file == "dialogmain"_s && !text.contains("0x"_s))
+            found << (type == QtCriticalMsg ? "critical "_s : "debug "_s) + QString::number(line) +
+                         u' ' + text;
     }
     return found.join(", "_s);
 }
@@ -105,7 +104,7 @@ Action confirmError(const QString &text)
     };
 }
 
-enum Answer { Keep, Restore, Escape, Enter, Wait, Terminate };
+enum Answer { Keep, Restore, Escape, Wait };
 
 // Answers the question that follows a switch, after a look at what has been run by then.
 Action answerQuestion(Answer answer, const QString &before)
@@ -121,11 +120,8 @@ Action answerQuestion(Answer answer, const QString &before)
         const auto *picture = widget->findChild<QLabel *>("label_2"_s);
         QVERIFY(!picture->property("pixmap").value<QPixmap>().isNull());
         const auto *sentence = widget->findChild<QLabel *>("m_lblQuestion"_s);
-        if (answer == Terminate)
-            QVERIFY(std::raise(SIGTERM) == 0 &&
-                    QTest::qWaitFor([=] { return widget->isHidden(); }));
-        else if (answer == Enter || answer == Escape)
-            QTest::keyClick(widget, answer == Enter ? Qt::Key_Return : Qt::Key_Escape);
+        if (answer == Escape)
+            QTest::keyClick(widget, Qt::Key_Escape);
         else if (answer != Wait)
             (answer == Keep ? keep : restore)->click();
         for (int left = DialogConfirm::COUNTDOWN_SECONDS; widget->isVisible(); --left) {
@@ -154,10 +150,9 @@ class TestDialogMain : public QObject
     std::unique_ptr<ModalAnswers> m_deadline;
     std::unique_ptr<DialogMain> m_dialog;
     QString m_transfers;
-    QString m_calls;
 
-    // The window, once it has the keyboard. Keeps what it did until then, and what the monitors'
-    // lines had seen when it was ready or said what has failed.
+    // The window, once it has the keyboard. Keeps what the monitors' lines had seen when it was
+    // ready or said what has failed.
     void open(const QString &error = QString())
     {
         m_dialog.reset();
@@ -170,7 +165,7 @@ class TestDialogMain : public QObject
         m_dialog = std::make_unique<DialogMain>();
         if (error.isEmpty())
             m_transfers = transfers();
-        m_calls = newCalls();
+        box::forgetCalls();
         m_dialog->show();
         QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
     }
@@ -204,6 +199,14 @@ class TestDialogMain : public QObject
 
     void press(const char *button) const { widget<QPushButton>(button)->click(); }
 
+    // Applies the selected mode; what is run after the question has been answered is given.
+    void apply(const std::vector<Action> &answers, const QString &called) const
+    {
+        const ModalAnswers modal(answers);
+        press("m_btnApply");
+        QCOMPARE(newCalls(), called);
+    }
+
 private slots:
     void initTestCase()
     {
@@ -233,8 +236,7 @@ private slots:
         auto *label = widget<QLabel>("m_lblDateTime");
         const QString first = label->text();
         QVERIFY(before <= first && first <= QDateTime::currentDateTime().toString(format));
-        QCOMPARE(m_dialog->findChild<QTimer *>()->interval(), 1000);
-        QTRY_VERIFY(label->text() > first);
+        QTRY_VERIFY_WITH_TIMEOUT(label->text() > first, 1500);
 
         QCursor::setPos(label->mapToGlobal(label->rect().center()));
         QTRY_COMPARE(label->styleSheet(), "color: blue"_s);
@@ -247,33 +249,26 @@ private slots:
         QTest::keyClick(label, Qt::Key_Space);
     }
 
+    // On a product without the OTP application, whose settings can be left all the same.
     void menu()
     {
-        for (const bool isOtp : {true, false}) {
-            write("/etc/orvex/barcode.txt"_s, isOtp ? "O\nB\n527AB001" : "O\nB\n463AB001");
-            open();
-            const QList<QAction *> actions = widget<QMenu>()->actions();
-            QStringList entries;
-            for (const QAction *action : actions)
-                entries << action->text();
-            QCOMPARE(entries.join(", "_s), "Upgrade Application, Upgrade File System, Preference, "
-                                           "Factory Reset, Fan Setting"_s);
-            QCOMPARE(actions[2]->isVisible(), isOtp);
-            // What an upgrade offers depends on the product, what a reset offers does not.
-            const auto cancel = [](const QString &offered) {
-                return [=](QWidget *choice) {
-                    const auto *dialog = qobject_cast<QInputDialog *>(choice);
-                    QCOMPARE(dialog->comboBoxItems().join(u' '), offered);
-                    pressButton(choice, QDialogButtonBox::Cancel);
-                };
-            };
-            const auto agree = [](QWidget *query) { pressButton(query, QDialogButtonBox::Yes); };
-            const QString offered = isOtp ? "vexastd vxotp"_s : "vexastd"_s;
-            const ModalAnswers modal({cancel(offered), agree, cancel("vexastd vxotp"_s)});
-            actions[0]->trigger();
-            actions[3]->trigger();
-            QCOMPARE(calls(), QString());
-        }
+        write("/etc/orvex/barcode.txt"_s, "O\nB\n463AB001");
+        open();
+        QStringList entries;
+        for (const QAction *action : widget<QMenu>()->actions())
+            entries << (action->isVisible() ? action->text() : "hidden"_s);
+        QCOMPARE(entries.join(", "_s),
+                 "Upgrade Application, Upgrade File System, hidden, Factory Reset, Fan Setting"_s);
+        QStringList offered;
+        const Action cancel = [&](QWidget *choice) {
+            offered << qobject_cast<QInputDialog *>(choice)->comboBoxItems().join(u' ');
+            pressButton(choice, QDialogButtonBox::Cancel);
+        };
+        const auto agree = [](QWidget *query) { pressButton(query, QDialogButtonBox::Yes); };
+        const ModalAnswers modal({cancel, agree, cancel});
+        widget<QMenu>()->actions().at(0)->trigger();
+        widget<QMenu>()->actions().at(3)->trigger();
+        QCOMPARE(offered.join(", "_s), "vexastd, vexastd vxotp"_s);
     }
 
     // The monitors and a file that is missing; what their lines see, and what comes of it.
@@ -311,32 +306,28 @@ private slots:
             open(isRead ? QString() : QLatin1String(result));
             QCOMPARE(list()->count(), QByteArray(result).left(1).toInt());
             QCOMPARE(m_transfers, QLatin1String(seen));
-            QCOMPARE(m_calls, isRead ? "fw_printenv -n display\n"_s : QString());
             QCOMPARE(log.texts("basedevice"_s).size(), *missing ? 1 : 0);
         }
     }
 
     void storedModes()
     {
-        const QString rows[][4] = {
-            // stored, selected, logged of the stored one and of the selected one, told
-            {"800x600M@75"_s, "800 x 600"_s, "D 800x600@75, D 800x600@60"_s, ""_s},
-            {"1280x960"_s, ""_s, "D 1280x960@60"_s, ""_s},
-            {"800x600@"_s, ""_s, "D 800x600@0"_s, NO_MODE},
-            {""_s, ""_s, ""_s, NO_MODE},
+        const std::tuple<const char *, QString, QString, QString> rows[] = {
+            // how it is read, selected, logged of the stored one and of the selected one, told
+            {"echo 800x600M@75", "800 x 600"_s, "D 800x600@75, D 800x600@60"_s, ""_s},
+            {"echo 1280x960", ""_s, "D 1280x960@60"_s, ""_s},
+            {"echo 800x600@", ""_s, "D 800x600@0"_s, NO_MODE},
+            {"echo", ""_s, ""_s, NO_MODE},
+            {"echo no words >&2; exit 1", ""_s, "C \"no words\n\""_s, NO_MODE},
         };
-        for (const auto &[stored, current, logged, told] : rows) {
-            store(stored);
+        for (const auto &[command, current, logged, told] : rows) {
+            const auto printenv = replaced("fw_printenv", command);
             const LogCapture log;
             open(told);
             QCOMPARE(list()->count(), 8);
             QCOMPARE(selected(), current);
             QCOMPARE(log.texts("dialogmain"_s).join(", "_s), logged);
         }
-        const auto printenv = replaced("fw_printenv", "echo no words >&2; exit 1");
-        const LogCapture log;
-        open(NO_MODE);
-        QCOMPARE(log.texts("dialogmain"_s), QStringList("C \"no words\n\""_s));
     }
 
     void lists()
@@ -409,21 +400,16 @@ private slots:
             return qobject_cast<QPushButton *>(qApp->widgetAt(QCursor::pos())) != nullptr;
         };
         for (const char *name : {"m_btnKeepThisConfig", "m_btnRestorePreConfig"}) {
-            for (const bool isMoved : {false, true}) {
-                DialogConfirm question(nullptr);
-                question.show();
-                QVERIFY(QTest::qWaitForWindowActive(&question));
-                QVERIFY(!isUnderButton());
-                const auto *button = question.findChild<QPushButton *>(QLatin1String(name));
-                // The second question would come up, and then is moved, under the pointer.
-                const QPoint middle = button->mapToGlobal(button->rect().center());
-                if (isMoved)
-                    question.move(question.pos() + QCursor::pos() - middle);
-                else
-                    QCursor::setPos(middle);
-                QTest::qWait(200);
-                QCOMPARE(isUnderButton(), !isMoved);
-            }
+            DialogConfirm question(nullptr); // the second comes up under the pointer
+            question.show();
+            QVERIFY(QTest::qWaitForWindowActive(&question));
+            QVERIFY(!isUnderButton());
+            const auto *button = question.findChild<QPushButton *>(QLatin1String(name));
+            QCursor::setPos(button->mapToGlobal(button->rect().center()));
+            QTest::qWait(200);
+            QVERIFY(isUnderButton());
+            question.move(question.pos() + QPoint(1, 0));
+            QTRY_VERIFY(!isUnderButton());
         }
         // Upwards where a small screen has no room below.
         const QRect buttons(200, 60, 180, 30);
@@ -437,44 +423,31 @@ private slots:
     void modes()
     {
         open();
-        const QString there = "xrandr -s 800x600 -r 60\n"_s;
+        const QString there = "xrandr -s 800x600 -r 60"_s;
         QVERIFY(offers("800 x 600"_s));
         QVERIFY(!offers("1360 x 768"_s));
         QVERIFY(offers("800 x 600"_s));
-        for (Answer answer : {Restore, Escape, Wait}) {
-            const ModalAnswers modal({answerQuestion(answer, there)});
-            press("m_btnApply");
-            QCOMPARE(newCalls(), "xrandr -s 1360x768 -r 75\n"_s);
-            QVERIFY(canApply());
-        }
-        const QString stored = "fw_setenv display 800x600@60\n"_s;
-        const QString word(1000, u'0');
+        for (Answer answer : {Restore, Escape, Wait})
+            apply({answerQuestion(answer, there)}, "xrandr -s 1360x768 -r 75"_s);
+        const QString stored = "fw_setenv display 800x600@60"_s;
         const std::tuple<const char *, QString, QString> failures[] = {
             // what it does, what is shown of its words, and what is logged when that is not all
-            {"echo no >&2; exit 1", "no\n"_s, ""_s},
-            {"seq 11 >&2; exit 1", "1\n2\n3\n4\n5\n\u2026\n8\n9\n10\n11"_s,
+            {"sleep 2; seq 11 >&2; exit 1", "1\n2\n3\n4\n5\n\u2026\n8\n9\n10\n11"_s,
              "C \"1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n\""_s},
-            {"printf %01000d 0 >&2; exit 1", word, ""_s},
+            {"printf %01000d 0 >&2; exit 1", QString(1000, u'0'), ""_s},
             {"printf %0999d 0 | sed s/0/\u65e0/g >&2; exit 1", QString(999, u'\u65e0'), ""_s},
         };
         for (const auto &[script, shows, logs] : failures) {
             const auto setenv = replaced("fw_setenv", script);
             const LogCapture log;
-            const ModalAnswers modal({answerQuestion(Keep, there), confirmError(shows)});
-            press("m_btnApply");
-            QCOMPARE(newCalls(), stored);
+            apply({answerQuestion(Keep, there), confirmError(shows)}, stored);
             QVERIFY(canApply());
             QCOMPARE(log.texts("dialogmain"_s).filter("C "_s).join(u'|'), logs);
         }
-        {
-            const auto setenv = replaced("fw_setenv", "sleep 2");
-            const ModalAnswers modal({answerQuestion(Keep, there)});
-            press("m_btnApply");
-            QCOMPARE(newCalls(), stored + "sync\n"_s);
-            QVERIFY(!canApply());
-        }
+        apply({answerQuestion(Keep, there)}, stored + "\nsync"_s);
+        QVERIFY(!canApply());
         QVERIFY(offers("1280 x 720"_s));
-        const ModalAnswers modal({answerQuestion(Restore, "xrandr -s 1280x720 -r 60\n"_s)});
+        const ModalAnswers modal({answerQuestion(Restore, "xrandr -s 1280x720 -r 60"_s)});
         press("m_btnOK");
         QCOMPARE(newCalls(), there);
         QVERIFY(!m_dialog->isVisible());
@@ -483,23 +456,23 @@ private slots:
     // Whatever is wrong, the screen shows 1920 x 1080 before the question and after it.
     void rejects()
     {
-        const char *const works = "exec /usr/bin/xrandr \"$@\"";
-        // The monitor, the stored mode, what is told, and what xrandr does the second time, when it
-        // may be missing.
+        const char *const works = "true";
+        const char *const fails = "[ $2 = 800x600 ] || exit 1";
+        const char *const hangs = "[ $2 = 800x600 ] || exec sleep 20";
+        const char *const goes = "rm $0";
+        // The monitor, the stored mode, what is told, and what becomes of xrandr.
         const std::tuple<const char *, QString, QString, const char *, Answer, QString> rows[] = {
             {"none", "1920x1080"_s, NO_EDID, works, Escape, "xrandr -s 0x0 -r 0"_s},
-            {"garbage", "1920x1080"_s, NO_EDID, works, Enter, "xrandr -s 0x0 -r 0"_s},
+            {"garbage", "1920x1080"_s, NO_EDID, works, Restore, "xrandr -s 0x0 -r 0"_s},
             {"no-timing", "1920x1080"_s, NO_TIMING, works, Wait, "xrandr -s 0x0 -r 0"_s},
-            {"1920x1080", ""_s, NO_MODE, works, Terminate, "xrandr -s 0x0 -r 0"_s},
-            {"1920x1080", "1600x1000"_s, ""_s, works, Enter, "xrandr -s 1600x1000 -r 60"_s},
-            {"1920x1080", "1920x1080"_s, ""_s, "exit 1", Escape, "xrandr -s 1920x1080 -r 60"_s},
-            {"1920x1080", "1920x1080"_s, ""_s, "sleep 20", Wait, "xrandr -s 1920x1080 -r 60"_s},
-            {"1920x1080", "1920x1080"_s, ""_s, nullptr, Terminate, ""_s},
+            {"1920x1080", ""_s, NO_MODE, works, Escape, "xrandr -s 0x0 -r 0"_s},
+            {"1920x1080", "1600x1000"_s, ""_s, works, Restore, "xrandr -s 1600x1000 -r 60"_s},
+            {"1920x1080", "1920x1080"_s, ""_s, fails, Escape, "xrandr -s 1920x1080 -r 60"_s},
+            {"1920x1080", "1920x1080"_s, ""_s, hangs, Wait, "xrandr -s 1920x1080 -r 60"_s},
+            {"1920x1080", "1920x1080"_s, ""_s, goes, Restore, ""_s},
         };
-        std::signal(SIGTERM, [](int) {});
-        const QByteArray path = qgetenv("PATH");
-        for (const auto &[monitor, stored, error, xrandr, answer, called] : rows) {
-            qInfo() << monitor << stored << xrandr;
+        for (const auto &[monitor, stored, error, becomes, answer, called] : rows) {
+            qInfo() << monitor << stored << becomes;
             QProcess::execute("/usr/bin/xrandr"_s, {"-s"_s, "1920x1080"_s, "-r"_s, "60"_s});
             QTRY_COMPARE(QGuiApplication::primaryScreen()->size(), QSize(1920, 1080));
             write("/run/simbox/hdmi"_s, monitor);
@@ -507,16 +480,10 @@ private slots:
             open(error);
             widget<QCheckBox>()->click();
             QVERIFY(offers("800 x 600"_s));
-            const auto restored = qScopeGuard([&] { qputenv("PATH", path); });
-            const auto replacement =
-                replaced("xrandr", QByteArray("[ $2 = 800x600 ] && ") + works + "\nexec " + xrandr);
-            const Action reject = answerQuestion(answer, "xrandr -s 800x600 -r 60\n"_s);
-            const ModalAnswers modal({[&reject, pathThen = xrandr ? path : "/"](QWidget *question) {
-                qputenv("PATH", pathThen);
-                reject(question);
-            }});
-            press("m_btnApply");
-            QCOMPARE(newCalls().trimmed(), called);
+            const auto aside = without("/usr/bin/xrandr"_s);
+            const auto xrandr =
+                replaced("xrandr", QByteArray(becomes) + "\nexec /usr/bin/xrandr.aside \"$@\"");
+            apply({answerQuestion(answer, "xrandr -s 800x600 -r 60"_s)}, called);
             QTRY_COMPARE(QGuiApplication::primaryScreen()->size(), QSize(1920, 1080));
         }
     }
@@ -529,31 +496,26 @@ private slots:
             write(PROFILE, after.isNull() ? after : untouched);
             open();
             widget<QComboBox>("m_cmbLanguage")->setCurrentText(language); // if it has that
-            std::vector<Action> answers;
-            if (item == "none"_s) {
-                widget<QCheckBox>()->click(); // Apply is off, OK tries all the same
-                answers.push_back(confirmError("Cannot parse resolution string."_s));
-            } else {
-                offers(item);
-            }
+            offers(item); // without one Apply is off, OK tries all the same
+            const Action confirm = confirmError("Cannot parse resolution string."_s);
             // The window goes first, then the language is written.
             connect(m_dialog.get(), &QDialog::finished, this,
                     [&] { QVERIFY(after.isNull() || read(PROFILE) == untouched); });
             const LogCapture capture;
-            const ModalAnswers modal(answers);
+            const ModalAnswers modal(std::vector<Action>(item == "none"_s ? 1 : 0, confirm));
             button ? press(button) : QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
             QVERIFY(!m_dialog->isVisible());
             QCOMPARE(calls(), QString());
             QCOMPARE(read(PROFILE), after);
             QCOMPARE(logged(), log);
         };
-        const QString chinese = "debug dialogmain:586 \"Chinese\""_s;
-        const QString english = "debug dialogmain:586 \"English\""_s;
+        const QString chinese = "debug 586 \"Chinese\""_s;
+        const QString english = "debug 586 \"English\""_s;
         leaves("1360 x 768"_s, ""_s, "m_btnOK", "export LANG=zh_CN.UTF-8\n", chinese);
         leaves("1360 x 768"_s, "English"_s, "m_btnOK", "export LANG=en_US.UTF-8\n", english);
         leaves("none"_s, "English"_s, "m_btnOK", "export LANG=en_US.UTF-8\n", english);
         leaves("1360 x 768"_s, "Chinese"_s, "m_btnOK", QByteArray(),
-               chinese + ", critical dialogmain:594 Open /etc/profile failed"_s);
+               chinese + ", critical 594 Open /etc/profile failed"_s);
         leaves("800 x 600"_s, "English"_s, "m_btnCancel", untouched, ""_s);
         leaves("800 x 600"_s, "English"_s, nullptr, untouched, ""_s);
     }
@@ -575,12 +537,8 @@ private slots:
                 prompt->setTextValue(QLatin1String(typed ? typed : "x"));
                 typed ? prompt->accept() : prompt->reject();
             }};
-            if (log.contains("Unkown"_s)) {
-                answers.emplace_back([](QWidget *widget) {
-                    QCOMPARE(logged(), QString());
-                    confirmError("Unkown instruction!"_s)(widget);
-                });
-            }
+            if (log.contains("Unkown"_s))
+                answers.push_back(confirmError("Unkown instruction!"_s));
             const LogCapture capture;
             QTest::keyClick(from, Qt::Key_E);
             const ModalAnswers modal(answers);
@@ -595,11 +553,10 @@ private slots:
         for (const char *unknown :
              {"%1 %2", "liftharborgate", " LiftHarborGate", "LiftHarborGate2", "LowerHarborGate2"})
             types(unknown, "m_btnOK", "NoDisplay=\n", "NoDisplay=\n",
-                  "debug dialogmain:135 Unkown instruction: '%1'!"_s.arg(QLatin1String(unknown)));
+                  "debug 135 Unkown instruction: '%1'!"_s.arg(QLatin1String(unknown)));
         types(nullptr, "m_btnOK", nullptr, nullptr, ""_s);
         types("", "m_btnOK", nullptr, nullptr, ""_s);
-        types("x", "m_btnOK", nullptr, nullptr,
-              "critical dialogmain:124 Loading configure file failed."_s);
+        types("x", "m_btnOK", nullptr, nullptr, "critical 124 Loading configure file failed."_s);
     }
 
     // The last one: the font stays.
@@ -609,7 +566,6 @@ private slots:
         DialogAbout about(nullptr);
         about.show();
         QCOMPARE(about.size(), QSize(386, 193));
-        QCOMPARE(about.findChild<QWidget *>("layoutWidget"_s)->geometry(), QRect(12, 13, 361, 131));
         QCOMPARE(about.findChild<QWidget *>("buttonBox"_s)->geometry(), QRect(50, 150, 325, 23));
     }
 };

@@ -28,12 +28,6 @@ class Display(unittest.TestCase):
         click(window, *APPLY, times=times, delay=120)
         return wait_for_window('Information')
 
-    @staticmethod
-    def is_on_screen(window):
-        """On one of 800 x 600."""
-        x, y, width, height = driver.place(window)
-        return 0 <= x <= 800 - width and 0 <= y <= 600 - height
-
     def test_keep(self):
         question = self.apply(0)
         self.assertEqual(screen_size(), '800x600')
@@ -42,7 +36,12 @@ class Display(unittest.TestCase):
         self.assertAlmostEqual(left + width / 2, 400, delta=2)
         # It makes way for a pointer that would lie on its buttons.
         self.assertAlmostEqual(top + height / 2, 300, delta=height)
-        wait_for(lambda: self.is_on_screen(main), 'main window on the screen')
+
+        def is_on_screen():
+            left, top, width, height = driver.place(main)
+            return 0 <= left <= 800 - width and 0 <= top <= 600 - height
+
+        wait_for(is_on_screen, 'main window on the screen')
         keys('Tab', 'space')
         wait_until_gone('Information')
         wait_for(lambda: stored_mode() == '800x600@60', 'stored mode')
@@ -78,34 +77,37 @@ class Display(unittest.TestCase):
         wait_until_gone('Information')
         self.assertEqual(stored_mode(), '1920x1080M@60')
 
+    def ends(self, number, *left):
+        self.assertEqual(self.tool.wait_for_end(), -number)
+        self.doCleanups()
+        self.assertEqual((stored_mode(), screen_size()), left)
+        self.setUp()
+
     def test_signals(self):
-        """What arrives during a command or the question counts as Restore, unless Keep came first."""
-        before, new = ('1920x1080M@60', '1920x1080'), ('800x600@60', '800x600')
-        for number, command, end, left in (
-                (signal.SIGHUP, None, '', before), (signal.SIGINT, None, '', before),
-                (signal.SIGTERM, 'xrandr', 'true', before),
-                (signal.SIGTERM, 'fw_setenv', 'true', new),
-                (signal.SIGTERM, 'fw_setenv', 'exit 1', (before[0], new[1]))):
-            with self.subTest(number, command=command, end=end):
-                tool = self.tool.process
-                if command:     # sends the signal before its own work
-                    script = Path('/usr/local/bin', command)
-                    self.addCleanup(script.write_text, script.read_text())
-                    script.write_text(script.read_text().replace(
-                        '\n', f'\nkill -{int(number)} {tool.pid} 2>/dev/null; {end}\n', 1))
-                window = wait_for_window('Display Settings')
-                click_row(window, 0)
-                click(window, *APPLY)
-                if command != 'xrandr':
-                    wait_for_window('Information')
+        """What arrives during the question counts as Restore."""
+        for number in signal.SIGINT, signal.SIGQUIT, signal.SIGPIPE:
+            with self.subTest(number):
+                self.apply(0)
+                self.tool.process.send_signal(number)
+                self.ends(number, '1920x1080M@60', '1920x1080')
+
+    def test_signals_in_commands(self):
+        """So does what arrives during a command, unless Keep came first."""
+        for command, end, *left in (('xrandr', 'true', '1920x1080M@60', '1920x1080'),
+                                    ('fw_setenv', 'true', '800x600@60', '800x600'),
+                                    ('fw_setenv', 'exit 1', '1920x1080M@60', '800x600')):
+            with self.subTest(command, end=end):
+                script = Path('/usr/local/bin', command)
+                self.addCleanup(script.write_text, script.read_text())
+                script.write_text(script.read_text().replace(
+                    '\n', f'\nkill {self.tool.process.pid} 2>/dev/null; {end}\n', 1))
                 if command == 'fw_setenv':
+                    self.apply(0)
                     keys('Tab', 'space')
-                elif not command:
-                    tool.send_signal(number)
-                self.assertEqual(self.tool.wait_for_end(), -number)
-                self.doCleanups()
-                self.assertEqual((stored_mode(), screen_size()), left)
-            self.setUp()
+                else:
+                    click_row(wait_for_window('Display Settings'), 0)
+                    click(driver.find_windows('Display Settings')[0], *APPLY)
+                self.ends(signal.SIGTERM, *left)
 
 
 if __name__ == '__main__':
