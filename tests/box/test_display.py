@@ -78,10 +78,11 @@ class Display(unittest.TestCase):
         self.assertEqual(stored_mode(), '1920x1080M@60')
 
     def ends(self, number, *left):
-        self.assertEqual(self.tool.wait_for_end(), -number)
+        end = self.tool.wait_for_end()
         self.doCleanups()
-        self.assertEqual((stored_mode(), screen_size()), left)
+        found = [stored_mode(), screen_size()]
         self.setUp()
+        self.assertEqual((end, found), (-number, list(left)))
 
     def test_signals(self):
         """What arrives during the question counts as Restore."""
