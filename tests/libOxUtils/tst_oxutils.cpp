@@ -29,7 +29,7 @@ extern "C" int ppoll(pollfd *files, nfds_t count, const timespec *timeout, const
     timespec time = timeout ? *timeout : timespec{};
     waits << int(time.tv_sec) + (time.tv_nsec > 0 ? 1 : 0);
     if (waits.last() >= 20)
-        time = {0, 20000000};
+        time = {0, 200000000};
     return int(syscall(SYS_ppoll, files, count, timeout ? &time : nullptr, mask, _NSIG / 8));
 }
 
