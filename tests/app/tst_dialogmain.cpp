@@ -12,6 +12,7 @@
 #include "tests/support/modal.h"
 #include "tests/support/text.h"
 
+#include <csignal>
 #include <cstdio>
 #include <memory>
 
@@ -102,7 +103,7 @@ Action confirmError(const QString &text)
     };
 }
 
-enum Answer { Keep, Restore, Escape, Wait };
+enum Answer { Keep, Restore, Escape, Enter, Wait, Terminate };
 
 // Answers the question that follows a switch, after a look at what has been run by then.
 Action answerQuestion(Answer answer, const QString &before)
@@ -115,8 +116,11 @@ Action answerQuestion(Answer answer, const QString &before)
         const auto *picture = widget->findChild<QLabel *>("label_2"_s);
         QVERIFY(!picture->property("pixmap").value<QPixmap>().isNull());
         const auto *sentence = widget->findChild<QLabel *>("m_lblQuestion"_s);
-        if (answer == Escape)
-            QTest::keyClick(widget, Qt::Key_Escape);
+        if (answer == Terminate)
+            QVERIFY(std::raise(SIGTERM) == 0 &&
+                    QTest::qWaitFor([=] { return widget->isHidden(); }));
+        else if (answer == Escape || answer == Enter)
+            QTest::keyClick(widget, answer == Enter ? Qt::Key_Return : Qt::Key_Escape);
         else if (answer == Keep)
             widget->findChild<QPushButton *>("m_btnKeepThisConfig"_s)->click();
         else if (answer == Restore)
@@ -428,6 +432,7 @@ private slots:
         const QString stored = "fw_setenv display 800x600@60"_s;
         const std::tuple<const char *, QString, QString> failures[] = {
             // what it does, what is shown of its words, and what is logged when that is not all
+            {"echo no >&2; exit 1", "no\n"_s, ""_s},
             {"sleep 2; seq 11 >&2; exit 1", "1\n2\n3\n4\n5\n\u2026\n8\n9\n10\n11"_s,
              "C \"1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n\""_s},
             {"printf %01000d 0 >&2; exit 1", QString(1000, u'0'), ""_s},
@@ -457,14 +462,15 @@ private slots:
         // The monitor, the stored mode, what is told, and what becomes of xrandr.
         const std::tuple<const char *, QString, QString, const char *, Answer, QString> rows[] = {
             {"none", "1920x1080"_s, NO_EDID, works, Escape, "xrandr -s 0x0 -r 0"_s},
-            {"garbage", "1920x1080"_s, NO_EDID, works, Restore, "xrandr -s 0x0 -r 0"_s},
+            {"garbage", "1920x1080"_s, NO_EDID, works, Enter, "xrandr -s 0x0 -r 0"_s},
             {"no-timing", "1920x1080"_s, NO_TIMING, works, Wait, "xrandr -s 0x0 -r 0"_s},
-            {"1920x1080", ""_s, NO_MODE, works, Escape, "xrandr -s 0x0 -r 0"_s},
-            {"1920x1080", "1600x1000"_s, ""_s, works, Restore, "xrandr -s 1600x1000 -r 60"_s},
+            {"1920x1080", ""_s, NO_MODE, works, Terminate, "xrandr -s 0x0 -r 0"_s},
+            {"1920x1080", "1600x1000"_s, ""_s, works, Enter, "xrandr -s 1600x1000 -r 60"_s},
             {"1920x1080", "1920x1080"_s, ""_s, fails, Escape, "xrandr -s 1920x1080 -r 60"_s},
             {"1920x1080", "1920x1080"_s, ""_s, hangs, Wait, "xrandr -s 1920x1080 -r 60"_s},
-            {"1920x1080", "1920x1080"_s, ""_s, goes, Restore, ""_s},
+            {"1920x1080", "1920x1080"_s, ""_s, goes, Terminate, ""_s},
         };
+        std::signal(SIGTERM, [](int) {});
         for (const auto &[monitor, stored, error, becomes, answer, called] : rows) {
             qInfo() << monitor << stored << becomes;
             QProcess::execute("/usr/bin/xrandr"_s, {"-s"_s, "1920x1080"_s, "-r"_s, "60"_s});
@@ -561,6 +567,7 @@ private slots:
         DialogAbout about(nullptr);
         about.show();
         QCOMPARE(about.size(), QSize(386, 193));
+        QCOMPARE(about.findChild<QWidget *>("layoutWidget"_s)->geometry(), QRect(12, 13, 361, 131));
         QCOMPARE(about.findChild<QWidget *>("buttonBox"_s)->geometry(), QRect(50, 150, 325, 23));
     }
 };

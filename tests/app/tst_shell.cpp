@@ -98,7 +98,6 @@ private slots:
         enum Held { Acts, Repeats };
         const std::tuple<const char *, Held, Qt::Key, Qt::KeyboardModifier, const char *> rows[] = {
             {"starts the upgrader", Acts, Qt::Key_F12, Qt::NoModifier, ""},
-            {"ends a dialog", Acts, Qt::Key_Escape, Qt::NoModifier, "\x1b"},
             {"presses a button", Acts, Qt::Key_Return, Qt::NoModifier, "\r"},
             {"opens the prompt", Acts, Qt::Key_E, Qt::ControlModifier, "e"},
             {"presses a button by its letter", Acts, Qt::Key_Y, Qt::AltModifier, "y"},

@@ -54,7 +54,6 @@ class Display(unittest.TestCase):
         self.assertIsNone(self.tool.process.poll())
         keys('Tab', 'Tab', 'Tab', 'space')
         self.assertEqual(self.tool.wait_for_end(), 0)
-        self.assertEqual(screen_size(), '800x600')
         self.assertIn('export LANG=zh_CN.UTF-8\n', Path('/etc/profile').read_text())
 
     def test_restore_by_enter(self):
@@ -74,7 +73,6 @@ class Display(unittest.TestCase):
         self.assertEqual(screen_size(), '1280x720')
         wait_for(lambda: screen_size() == '1920x1080', 'the mode before', 30 + driver.PATIENCE / 2)
         self.assertGreater(time.monotonic() - start, 27)
-        wait_until_gone('Information')
         self.assertEqual(stored_mode(), '1920x1080M@60')
 
     def ends(self, number, *left):
@@ -86,7 +84,7 @@ class Display(unittest.TestCase):
 
     def test_signals(self):
         """What arrives during the question counts as Restore."""
-        for number in signal.SIGINT, signal.SIGQUIT, signal.SIGPIPE:
+        for number in signal.SIGHUP, signal.SIGINT, signal.SIGQUIT, signal.SIGPIPE:
             with self.subTest(number):
                 self.apply(0)
                 self.tool.process.send_signal(number)
