@@ -313,7 +313,6 @@ private slots:
             {app, "Down Return",
              app + ": |571 void DialogMain::startUpgraderApp(bool): Starting upgrader vxotp...",
              "upgrader vexa_otp /home/root vxotp\n"},
-            {app, "Escape", app + ": ", ""},
         };
         for (const auto &[what, keys, says, run] : rows) {
             QCOMPARE(open(what, keys), says);
