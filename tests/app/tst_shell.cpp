@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/guards/instancelock.h"
 #include "app/guards/keyrepeatguard.h"
-#include "app/languages.h"
 #include "app/shellprofile.h"
 #include "app/shortenedmessage.h"
 #include "tests/support/logcapture.h"
