@@ -8,8 +8,7 @@
 //
 //     #define OX_LOG_FIXED_POSITIONS(position) position(FONT_FAMILY, 37) position(...)
 //
-// The build then fails when a number is listed twice, when two messages use one name, and when
-// another message of that file lands on one of them.
+// The build then fails when another message of that file lands on one of them.
 #pragma once
 
 #include <QString>
@@ -41,23 +40,6 @@ constexpr int freeLine(int line)
     return line;
 }
 
-namespace positions {
-
-// Each number that is listed defines its own, so that none can be listed twice.
-template<int line>
-struct Position;
-
-// Each message at a position, told apart by its line in the source, defines the position's one
-// function, so that no other can be there.
-template<int line, int sourceLine>
-struct MessageAt
-{
-    static constexpr int LINE = line;
-    friend void onlyMessageAt(Position<line> * /*position*/) {}
-};
-
-} // namespace positions
-
 } // namespace oxlog
 
 #ifndef OX_LOG_FIXED_POSITIONS
@@ -65,16 +47,10 @@ struct MessageAt
 #endif
 // A name that is declared stands without parentheses. NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define OX_LOG_POSITION(name, line) constexpr int name = line;
-#define OX_LOG_ONLY_POSITION(name, line)                                                           \
-    template<>                                                                                     \
-    struct Position<line>                                                                          \
-    {                                                                                              \
-    };
 #define OX_LOG_IS_NOT_AT(name, line) &&__LINE__ != (line)
 
 namespace oxlog::positions {
 OX_LOG_FIXED_POSITIONS(OX_LOG_POSITION)
-OX_LOG_FIXED_POSITIONS(OX_LOG_ONLY_POSITION)
 } // namespace oxlog::positions
 
 // The site of the message written here, under the full signature of the enclosing function.
@@ -84,6 +60,4 @@ OX_LOG_FIXED_POSITIONS(OX_LOG_ONLY_POSITION)
                  Q_FUNC_INFO})
 
 // The same with the line number under which support staff know the message of that name.
-#define OX_LOG_AT(name)                                                                            \
-    (oxlog::Site{OX_LOG_FILE, oxlog::positions::MessageAt<oxlog::positions::name, __LINE__>::LINE, \
-                 Q_FUNC_INFO})
+#define OX_LOG_AT(name) (oxlog::Site{OX_LOG_FILE, oxlog::positions::name, Q_FUNC_INFO})
