@@ -149,9 +149,13 @@ void DialogMain::keyPressEvent(QKeyEvent *event)
         if (!askForGamma())
             return;
         oxlog::debug(OX_LOG_AT(GAMMA_CHOSEN), QString::number(static_cast<double>(m_gamma)));
-        const ScreenGamma gamma(m_gamma);
-        if (!gamma.IsSet())
+        FbDevice &framebuffer = *FbDevice::Instance();
+        // Neither is checked: without an open device the next step fails, and a curve that is set
+        // stays so.
+        static_cast<void>(framebuffer.OpenDevice(FbDevice::DEV_NAME));
+        if (!framebuffer.SetGamma(m_gamma))
             oxlog::critical(OX_LOG_AT(GAMMA_FAILED), QStringLiteral("Setting gamma failed."));
+        static_cast<void>(framebuffer.CloseDevice());
     } else if (event->key() == Qt::Key_E && event->modifiers().testFlag(Qt::ControlModifier)) {
         QString typed;
         const InstructionResult result = promptForInstruction(typed);

@@ -115,17 +115,3 @@ bool FbDevice::GetVarScreenInfo()
     write("grayscale", info.grayscale);
     return true;
 }
-
-ScreenGamma::ScreenGamma(float gamma)
-{
-    FbDevice *const framebuffer = FbDevice::Instance();
-    // Not checked: without an open device the next step fails.
-    static_cast<void>(framebuffer->OpenDevice(FbDevice::DEV_NAME));
-    m_isSet = framebuffer->SetGamma(gamma);
-}
-
-ScreenGamma::~ScreenGamma()
-{
-    // Logged when it fails, and the curve is set all the same.
-    static_cast<void>(FbDevice::Instance()->CloseDevice());
-}

@@ -41,19 +41,3 @@ private:
     int m_fd = -1;
     QString m_name; // given to the last OpenDevice
 };
-
-// Opens the box's framebuffer, gives it the curve for a gamma, any float, and keeps it open as long
-// as this lives.
-class ScreenGamma
-{
-public:
-    explicit ScreenGamma(float gamma);
-    ~ScreenGamma();
-    Q_DISABLE_COPY(ScreenGamma)
-
-    // False when the framebuffer has not taken the curve; the log then says why.
-    [[nodiscard]] bool IsSet() const { return m_isSet; }
-
-private:
-    bool m_isSet = false;
-};
