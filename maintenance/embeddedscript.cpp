@@ -9,9 +9,9 @@
 ScriptResult runEmbeddedScript(const QString &name, const QStringList &arguments)
 {
     const QString copy = QStringLiteral("/tmp/") + name;
-    // QFile does not copy over a file. If the old copy cannot be removed, the copying fails.
-    if (QFile::exists(copy))
-        QFile::remove(copy);
+    // QFile does not copy over anything, nor does it see a link that leads nowhere. If what is
+    // there cannot be removed, the copying fails.
+    QFile::remove(copy);
     if (!QFile::copy(QStringLiteral("://") + name, copy))
         return ScriptResult::CopyFailed;
     // The copy is not executable, and need not be: sh reads it.
