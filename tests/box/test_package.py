@@ -40,6 +40,12 @@ class Package(unittest.TestCase):
                           *(f'moniconf_{locale}.qm' for locale in tables.LOCALES)})
         self.assertEqual(list(Path('/var/lib/dpkg/info').glob('moniconf.*inst')), [])
         self.assertRegex(driver.output('/usr/bin/moniconf', '-v'), r'^moniconf 1\.2\.')
+        # Without a search path the tool gets the usual one, and not the current directory.
+        with driver.Tool('PATH=', '/usr/bin/moniconf', program='env') as tool:
+            wait_for_window('Display Settings')
+            path = Path(f'/proc/{tool.process.pid}/environ').read_text()
+        self.assertRegex(path, r'(?m)\0PATH=/usr/libexec/moniconf(:/[\w/]+)+:/usr/bin[\w:/]*\0')
+        wait_until_gone('Display Settings')
 
         # As on Debian, where sh cannot run the script behind Preference.
         subprocess.run(['ln', '-sf', '/usr/bin/dash', '/usr/local/bin/sh'], check=True)
