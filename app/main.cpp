@@ -21,10 +21,14 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <csignal>
 #include <cstdio>
 
 int main(int argc, char *argv[])
 {
+    // A window does not end because nobody reads its log, or waits for its answer, any more. The
+    // programs that the toolkit starts get the default back.
+    std::signal(SIGPIPE, SIG_IGN);
     if (isVersionQuery(argc, argv)) {
         std::printf("moniconf %s\n", GetAppVersion().toUtf8().constData());
         return 0;

@@ -57,7 +57,8 @@ class Tool:
         pattern = '|'.join(f'%{{{name}}}' for name in Message._fields[:-1]) + '|%{message}'
         with open(self.log_file, 'wb') as stream:
             self.process = subprocess.Popen(
-                ['env', f'QT_MESSAGE_PATTERN={pattern}', program, *arguments], stderr=stream)
+                ['env', f'QT_MESSAGE_PATTERN={pattern}', program, *arguments], stderr=stream,
+                start_new_session=True)
 
     def messages(self, text='', **fields):
         """The messages that hold the text and have the given fields, such as type='critical'."""

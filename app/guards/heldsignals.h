@@ -7,12 +7,11 @@
 
 #include <csignal>
 
-// Holds back the signals that ask a program to end (SIGHUP, SIGINT, SIGQUIT, SIGTERM), or end it
-// when nobody reads its log any more (SIGPIPE), while it lives. One that arrives rejects the modal
-// dialog that is open or opens next, and ends the program when this object is destroyed, as it
-// would have ended it at once. Signals that are ignored, SIGHUP under nohup for one, stay so; and
-// the C library ignores SIGINT and SIGQUIT while its system() runs a command. Lives on the GUI
-// thread, one at a time.
+// Holds back the signals that ask a program to end (SIGHUP, SIGINT, SIGQUIT, SIGTERM) while it
+// lives. One that arrives rejects the modal dialog that is open or opens next, and ends the program
+// when this object is destroyed, as it would have ended it at once. Signals that are ignored,
+// SIGHUP under nohup for one, stay so; and the C library ignores SIGINT and SIGQUIT while its
+// system() runs a command. Lives on the GUI thread, one at a time.
 class HeldSignals
 {
 public:
@@ -23,7 +22,7 @@ public:
 private:
     void rejectOpenDialog();
 
-    static constexpr std::array<int, 5> SIGNALS = {SIGHUP, SIGINT, SIGPIPE, SIGQUIT, SIGTERM};
+    static constexpr std::array<int, 4> SIGNALS = {SIGHUP, SIGINT, SIGQUIT, SIGTERM};
 
     std::array<struct sigaction, SIGNALS.size()> m_before{};
     QSocketNotifier m_arrival;

@@ -1,8 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "libOxUtils/utils/commandline.h"
 
-#include <QProcess>
 #include <QStringList>
+
+#include <unistd.h>
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+
+CommandProcess::CommandProcess()
+{
+    setChildProcessModifier([] { ::setsid(); });
+}
+
+#else
+
+CommandProcess::CommandProcess() = default;
+
+void CommandProcess::setupChildProcess()
+{
+    ::setsid();
+}
+
+#endif
 
 // Qt 5.15 deprecates the one-string forms and brings splitCommand(), which earlier versions lack.
 

@@ -4,9 +4,21 @@
 // variables or wildcards).
 #pragma once
 
+#include <QProcess>
 #include <QString>
 
-class QProcess;
+// A process in a session of its own: Ctrl+C in the tool's terminal reaches every program of the
+// terminal's session, and would end a command in the middle of what it writes.
+class CommandProcess : public QProcess
+{
+public:
+    CommandProcess();
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+protected:
+    void setupChildProcess() override;
+#endif
+};
 
 // Starts the command read-write. Whether it really starts shows in QProcess::waitForStarted();
 // a command without any word fails to start.

@@ -14,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSemaphore>
 
@@ -52,7 +51,7 @@ bool Utils::ExecShellCommand(const QString &command, QString &output, QString &e
                              int startTimeoutMs, int finishTimeoutMs)
 {
     // Its destruction ends a process that is still running.
-    QProcess process;
+    CommandProcess process;
     startCommand(process, command);
     if (!process.waitForStarted(startTimeoutMs)) {
         oxlog::critical(OX_LOG_HERE, startFailed());
@@ -71,8 +70,8 @@ bool Utils::ExecPipeShellCommand(const QString &firstCommand, const QString &sec
                                  QString &output, QString &error, int startTimeoutMs,
                                  int finishTimeoutMs)
 {
-    QProcess first;
-    QProcess second;
+    CommandProcess first;
+    CommandProcess second;
     first.setStandardOutputProcess(&second);
     startCommand(first, firstCommand);
     startCommand(second, secondCommand);
@@ -92,7 +91,7 @@ bool Utils::ExecPipeShellCommand(const QString &firstCommand, const QString &sec
 bool Utils::ExecShellFile(const QString &scriptPath, const QStringList &arguments,
                           const QString &workingDirectory)
 {
-    QProcess process;
+    CommandProcess process;
     process.setWorkingDirectory(workingDirectory);
     process.start(QStringLiteral("sh"), QStringList(scriptPath) + arguments, QIODevice::ReadWrite);
     if (!process.waitForStarted(SCRIPT_WAIT_MS)) {

@@ -84,14 +84,26 @@ class Display(unittest.TestCase):
 
     def test_signals(self):
         """What arrives during the question counts as Restore."""
-        for number in signal.SIGHUP, signal.SIGINT, signal.SIGQUIT, signal.SIGPIPE:
+        for number in signal.SIGHUP, signal.SIGINT, signal.SIGQUIT:
             with self.subTest(number):
                 self.apply(0)
                 self.tool.process.send_signal(number)
                 self.ends(number, '1920x1080M@60', '1920x1080')
 
+    def test_ignored_signals(self):
+        """Neither a terminal that is left under nohup nor a log without a reader ends the tool."""
+        self.tool.stop()
+        self.tool = driver.Tool('-c', f'exec nohup {driver.PROGRAM} 2> >(true)', program='bash')
+        self.apply(0)
+        self.tool.process.send_signal(signal.SIGHUP)
+        keys('Tab', 'space')
+        wait_for(lambda: stored_mode() == '800x600@60', 'stored mode')
+        wait_for_window('Display Settings')
+        keys('Escape')
+        self.assertEqual(self.tool.wait_for_end(), 0)
+
     def test_signals_in_commands(self):
-        """So does what arrives during a command, unless Keep came first."""
+        """So does Ctrl+C in the terminal during a command, unless Keep came first; the command goes on."""
         for command, end, *left in (('xrandr', 'true', '1920x1080M@60', '1920x1080'),
                                     ('fw_setenv', 'true', '800x600@60', '800x600'),
                                     ('fw_setenv', 'exit 1', '1920x1080M@60', '800x600')):
@@ -99,14 +111,14 @@ class Display(unittest.TestCase):
                 script = Path('/usr/local/bin', command)
                 self.addCleanup(script.write_text, script.read_text())
                 script.write_text(script.read_text().replace(
-                    '\n', f'\nkill {self.tool.process.pid} 2>/dev/null; {end}\n', 1))
+                    '\n', f'\nkill -INT -{self.tool.process.pid} 2>/dev/null; {end}\n', 1))
                 if command == 'fw_setenv':
                     self.apply(0)
                     keys('Tab', 'space')
                 else:
                     click_row(wait_for_window('Display Settings'), 0)
                     click(driver.find_windows('Display Settings')[0], *APPLY)
-                self.ends(signal.SIGTERM, *left)
+                self.ends(signal.SIGINT, *left)
 
 
 if __name__ == '__main__':
