@@ -261,7 +261,7 @@ void DialogMain::btnApply_clicked(bool /*checked*/)
 
     // A program that ended before the answer would leave a mode that perhaps cannot be seen.
     const HeldSignals untilAnswered;
-    const std::optional<ScreenConfiguration> before = shownConfiguration();
+    ScreenConfiguration before;
     m_screenKeeper->rememberPlace();
     // The new mode comes first and the question after it, so that the user judges what can be seen.
     switchScreen(wanted);
@@ -272,10 +272,10 @@ void DialogMain::btnApply_clicked(bool /*checked*/)
         takeBack(before);
 }
 
-void DialogMain::takeBack(const std::optional<ScreenConfiguration> &before)
+void DialogMain::takeBack(ScreenConfiguration &before)
 {
     switchScreen(m_curResolution);
-    restoreIfRejectedModeLeft(before, m_curResolution);
+    before.restoreIfLost(m_curResolution);
     m_screenKeeper->returnToPlace();
 }
 

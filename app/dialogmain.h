@@ -3,7 +3,6 @@
 
 #include "app/terminalentry.h"
 #include "display/monitor/displaymode.h"
-#include "display/screenconfiguration.h"
 
 #include <QDialog>
 #include <QString>
@@ -14,6 +13,7 @@
 class QAction;
 class QMenu;
 class QTimer;
+class ScreenConfiguration;
 class ScreenKeeper;
 class Ui_DialogMain;
 
@@ -89,7 +89,7 @@ private:
     // Stores a mode for the next start and takes it as the current one.
     void keep(const T_Resolution &resolution);
     // Brings the current mode back, or else what the screen showed before, and the window with it.
-    void takeBack(const std::optional<ScreenConfiguration> &before);
+    void takeBack(ScreenConfiguration &before);
 
     void startUpgraderSelf();
     // true: the standard test application; false: the OTP one.

@@ -27,7 +27,7 @@ void waitForScreen(const QSize &size)
     for (;;) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         const QSize known = screenArea().size() * qGuiApp->devicePixelRatio();
-        if (known == size || waiting.hasExpired(SCREEN_WAIT_MS))
+        if (known == size || known == size.transposed() || waiting.hasExpired(SCREEN_WAIT_MS))
             return;
         QThread::msleep(POLL_MS);
     }

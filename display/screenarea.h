@@ -11,7 +11,8 @@ class QWidget;
 QRect screenArea();
 
 // Serves events, but none of the user's, until the toolkit has heard that the screen has that size
-// in pixels, for half a second at most: what another program does to the screen it hears of late.
+// in pixels, upright or turned by a right angle, for half a second at most: what another program
+// does to the screen it hears of late.
 void waitForScreen(const QSize &size);
 
 // Where the top-left corner of a window has to be for the window, at rect including its frame, to

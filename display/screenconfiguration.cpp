@@ -10,120 +10,115 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
+#include <tuple>
 #include <xcb/randr.h>
 
 namespace {
 
-struct Release
+struct Free
 {
-    void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
     void operator()(void *reply) const { std::free(reply); }
 };
 
-template<typename Object>
-using Owned = std::unique_ptr<Object, Release>;
-
-template<typename Object>
-Owned<Object> owned(Object *object)
+template<typename Reply>
+std::unique_ptr<Reply, Free> owned(Reply *reply)
 {
-    return Owned<Object>(object);
+    return std::unique_ptr<Reply, Free>(reply);
 }
 
-// A connection of its own to the server's first screen: the toolkit gives its own away only through
-// headers that are not public.
-class RandR
+// As it was when the connection was made.
+const xcb_screen_t &screen(xcb_connection_t *x)
 {
-public:
-    RandR()
-        : m_owned(xcb_connect(nullptr, nullptr))
-        , m_x(m_owned.get())
-    {
-        if (xcb_connection_has_error(m_x) != 0)
-            return;
-        const auto *extension = xcb_get_extension_data(m_x, &xcb_randr_id);
-        if (!extension || extension->present == 0)
-            return;
-        // Without being told a version the server takes the requests for those of the oldest.
-        const auto cookie = xcb_randr_query_version(m_x, 1, 1);
-        if (owned(xcb_randr_query_version_reply(m_x, cookie, nullptr)))
-            m_root = xcb_setup_roots_iterator(xcb_get_setup(m_x)).data->root;
-    }
+    return *xcb_setup_roots_iterator(xcb_get_setup(x)).data;
+}
 
-    // Null without RandR.
-    Owned<xcb_randr_get_screen_info_reply_t> info() const
-    {
-        if (m_root == XCB_NONE)
-            return nullptr;
-        const auto cookie = xcb_randr_get_screen_info(m_x, m_root);
-        return owned(xcb_randr_get_screen_info_reply(m_x, cookie, nullptr));
-    }
-
-    // False when the server does not take it, or has no such size any more.
-    bool set(const ScreenConfiguration &wanted) const
-    {
-        const auto current = info();
-        if (!current)
-            return false;
-        // Where a size stands in the list changes with the mode.
-        const auto *const sizes = xcb_randr_get_screen_info_sizes(current.get());
-        const auto *const end = sizes + current->nSizes;
-        const auto *const size = std::find_if(sizes, end, [&](const auto &offered) {
-            return offered.width == wanted.width && offered.height == wanted.height;
-        });
-        if (size == end)
-            return false;
-        const auto cookie =
-            xcb_randr_set_screen_config(m_x, m_root, XCB_CURRENT_TIME, current->config_timestamp,
-                                        static_cast<std::uint16_t>(size - sizes), wanted.rotation,
-                                        wanted.rate);
-        const auto reply = owned(xcb_randr_set_screen_config_reply(m_x, cookie, nullptr));
-        return reply && reply->status == XCB_RANDR_SET_CONFIG_SUCCESS;
-    }
-
-private:
-    const Owned<xcb_connection_t> m_owned;
-    xcb_connection_t *const m_x;
-    xcb_window_t m_root = XCB_NONE;
-};
+// False when the server does not take it.
+bool set(xcb_connection_t *x, xcb_timestamp_t configTime, const LitCrtc &crtc)
+{
+    const auto cookie = xcb_randr_set_crtc_config(x, crtc.id, XCB_CURRENT_TIME, configTime, crtc.x,
+                                                  crtc.y, crtc.mode, crtc.rotation,
+                                                  static_cast<std::uint32_t>(crtc.outputs.size()),
+                                                  crtc.outputs.data());
+    const auto reply = owned(xcb_randr_set_crtc_config_reply(x, cookie, nullptr));
+    return reply && reply->status == XCB_RANDR_SET_CONFIG_SUCCESS;
+}
 
 } // namespace
 
-bool operator==(const ScreenConfiguration &a, const ScreenConfiguration &b)
+bool operator==(const LitCrtc &a, const LitCrtc &b)
 {
-    return a.width == b.width && a.height == b.height && a.rotation == b.rotation &&
-           a.rate == b.rate;
+    return std::tie(a.id, a.x, a.y, a.mode, a.rotation, a.outputs) ==
+           std::tie(b.id, b.x, b.y, b.mode, b.rotation, b.outputs);
 }
 
-std::optional<ScreenConfiguration> shownConfiguration()
+bool isPictureLost(const std::vector<LitCrtc> &now, const std::vector<LitCrtc> &before,
+                   const DisplayMode &wanted)
 {
-    const auto info = RandR().info();
-    if (!info || info->sizeID >= info->nSizes)
-        return std::nullopt;
-    const xcb_randr_screen_size_t size = xcb_randr_get_screen_info_sizes(info.get())[info->sizeID];
-    return ScreenConfiguration{size.width, size.height, info->rotation, info->rate};
+    const auto isWanted = [&wanted](const LitCrtc &crtc) {
+        return (crtc.width == wanted.width && crtc.height == wanted.height) ||
+               (crtc.width == wanted.height && crtc.height == wanted.width);
+    };
+    const bool isDone =
+        now.size() >= before.size() && std::any_of(now.begin(), now.end(), isWanted);
+    return !before.empty() && now != before && !isDone;
 }
 
-bool isRejectedModeLeft(const ScreenConfiguration &now, const ScreenConfiguration &before,
-                        const DisplayMode &wanted)
+ScreenConfiguration::ScreenConfiguration()
+    : m_x(xcb_connect(nullptr, nullptr), &xcb_disconnect)
+    , m_before(shown())
 {
-    // A mode is applied only when its size is another than the wanted one's.
-    return !(now == before) && (now.width != wanted.width || now.height != wanted.height);
 }
 
-void restoreIfRejectedModeLeft(const std::optional<ScreenConfiguration> &before,
-                               const DisplayMode &wanted)
+std::vector<LitCrtc> ScreenConfiguration::shown()
 {
-    const std::optional<ScreenConfiguration> now = shownConfiguration();
-    if (!before || !now || !isRejectedModeLeft(*now, *before, wanted))
+    std::vector<LitCrtc> found;
+    xcb_connection_t *const x = m_x.get();
+    if (xcb_connection_has_error(x) != 0)
+        return found;
+    // Without being told a version the server takes the requests for those of the oldest.
+    xcb_randr_query_version(x, 1, 3);
+    const auto request = xcb_randr_get_screen_resources_current(x, screen(x).root);
+    const auto resources = owned(xcb_randr_get_screen_resources_current_reply(x, request, nullptr));
+    if (!resources)
+        return found;
+    m_configTime = resources->config_timestamp;
+    const auto *const ids = xcb_randr_get_screen_resources_current_crtcs(resources.get());
+    for (const auto *id = ids; id != ids + resources->num_crtcs; ++id) {
+        const auto cookie = xcb_randr_get_crtc_info(x, *id, m_configTime);
+        const auto crtc = owned(xcb_randr_get_crtc_info_reply(x, cookie, nullptr));
+        if (!crtc || crtc->mode == XCB_NONE)
+            continue;
+        const auto *const outputs = xcb_randr_get_crtc_info_outputs(crtc.get());
+        found.push_back({*id,
+                         crtc->x,
+                         crtc->y,
+                         crtc->width,
+                         crtc->height,
+                         crtc->mode,
+                         crtc->rotation,
+                         {outputs, outputs + crtc->num_outputs}});
+    }
+    return found;
+}
+
+void ScreenConfiguration::restoreIfLost(const DisplayMode &wanted)
+{
+    const std::vector<LitCrtc> now = shown();
+    if (!isPictureLost(now, m_before, wanted))
         return;
-    const QString done = RandR().set(*before) ? QStringLiteral("is shown again")
-                                              : QStringLiteral("cannot be shown again");
-    oxlog::critical(OX_LOG_HERE, QStringLiteral("xrandr has left the rejected mode, %1x%2 %3.")
-                                     .arg(QString::number(before->width),
-                                          QString::number(before->height), done));
-    const QSize size(before->width, before->height);
-    const bool isUpright =
-        (before->rotation & (XCB_RANDR_ROTATION_ROTATE_90 | XCB_RANDR_ROTATION_ROTATE_270)) == 0;
-    waitForScreen(isUpright ? size : size.transposed());
+    xcb_connection_t *const x = m_x.get();
+    // All at once dark: what is lit has to lie on the screen, also while that changes its size.
+    for (const LitCrtc &crtc : now)
+        set(x, m_configTime, {crtc.id, 0, 0, 0, 0, XCB_NONE, XCB_RANDR_ROTATION_ROTATE_0, {}});
+    const xcb_screen_t &before = screen(x);
+    xcb_randr_set_screen_size(x, before.root, before.width_in_pixels, before.height_in_pixels,
+                              before.width_in_millimeters, before.height_in_millimeters);
+    bool isBack = true;
+    for (const LitCrtc &crtc : m_before)
+        isBack = set(x, m_configTime, crtc) && isBack;
+    oxlog::critical(OX_LOG_HERE,
+                    QStringLiteral("xrandr has not brought the picture back, which %1.")
+                        .arg(isBack ? QStringLiteral("is shown again")
+                                    : QStringLiteral("cannot be shown again")));
+    waitForScreen(QSize(m_before.front().width, m_before.front().height));
 }

@@ -6,31 +6,49 @@
 #include "display/monitor/displaymode.h"
 
 #include <cstdint>
-#include <optional>
+#include <memory>
+#include <vector>
 
-// What the screen shows, in the terms of RandR's requests GetScreenInfo and SetScreenConfig, which
-// know one output, as xrandr -s does.
-struct ScreenConfiguration
+struct xcb_connection_t;
+
+// A part of the screen that is shown, in the terms of RandR's requests GetCrtcInfo and
+// SetCrtcConfig.
+struct LitCrtc
 {
-    std::uint16_t width; // of the unrotated screen, in pixels, as height
+    std::uint32_t id;
+    std::int16_t x; // of its left top corner on the screen, in pixels, as y
+    std::int16_t y;
+    std::uint16_t width; // as it lies on the screen, in pixels, as height
     std::uint16_t height;
-    std::uint16_t rotation; // a bit mask of the RandR standard, 1 for none
-    std::uint16_t rate;     // Hz
+    std::uint32_t mode;                 // has size and rate
+    std::uint16_t rotation;             // a bit mask of the RandR standard, 1 for none
+    std::vector<std::uint32_t> outputs; // the connectors that show it
 };
 
-bool operator==(const ScreenConfiguration &a, const ScreenConfiguration &b);
+bool operator==(const LitCrtc &a, const LitCrtc &b);
 
-// What the screen shows now; none without an X server that has RandR.
-std::optional<ScreenConfiguration> shownConfiguration();
+// Whether the command that was to bring the wanted mode back has failed, given what is shown after
+// it and what was shown before the rejected mode came: true when the two differ and the wanted mode
+// is not shown, or fewer parts are. False where nothing is known of what was shown before.
+bool isPictureLost(const std::vector<LitCrtc> &now, const std::vector<LitCrtc> &before,
+                   const DisplayMode &wanted);
 
-// Whether a rejected mode is still on the screen, given what it shows now, what it showed before
-// the mode came, and the mode that the command was to bring back.
-bool isRejectedModeLeft(const ScreenConfiguration &now, const ScreenConfiguration &before,
-                        const DisplayMode &wanted);
+// What the screen shows when this is made; nothing without an X server that has RandR 1.3.
+class ScreenConfiguration
+{
+public:
+    ScreenConfiguration();
 
-// To be called after that command: when it has left a rejected mode on the screen, sets the
-// configuration that was shown before, over RandR, and logs that and whether it could. Returns when
-// the toolkit knows the new size or after half a second without it. Nothing happens when the
-// command has worked, nor where before is none.
-void restoreIfRejectedModeLeft(const std::optional<ScreenConfiguration> &before,
-                               const DisplayMode &wanted);
+    // To be called after the command that takes a rejected mode back: when the picture is lost,
+    // sets what was shown, over RandR, and logs that and whether it could. Returns when the toolkit
+    // knows the new size or after half a second without it.
+    void restoreIfLost(const DisplayMode &wanted);
+
+private:
+    std::vector<LitCrtc> shown();
+
+    // Of its own: the toolkit gives its connection away only through headers that are not public.
+    const std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t *)> m_x;
+    std::uint32_t m_configTime = 0;
+    const std::vector<LitCrtc> m_before;
+};

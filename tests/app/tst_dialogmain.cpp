@@ -5,6 +5,8 @@
 #include "app/guards/modalfocusguard.h"
 #include "app/startup.h"
 #include "display/dialogconfirm.h"
+#include "display/screenconfiguration.h"
+#include "libOxUtils/utils/qtversions.h"
 #include "maintenance/dialogabout.h"
 #include "tests/support/box.h"
 #include "tests/support/edidblock.h"
@@ -46,6 +48,18 @@ auto replaced(const QByteArray &command, const QByteArray &script)
     write(file, "#!/bin/sh\necho " + command + " \"$@\" >>/run/simbox/calls\n" + script);
     QFile::setPermissions(file, QFile::ReadOwner | QFile::ExeOwner);
     return restored;
+}
+
+// Switches the screen; gives what is shown then: its size, and the monitor's place, turn and rate.
+QString xrandr(const QString &arguments = QString())
+{
+    QProcess command;
+    command.start("/usr/bin/xrandr"_s, arguments.split(u' ', qtversions::SKIP_EMPTY_PARTS));
+    command.waitForFinished();
+    if (!arguments.isEmpty())
+        return xrandr();
+    const QStringList lines = QString::fromUtf8(command.readAllStandardOutput()).split(u'\n');
+    return lines.filter(QRegularExpression("current|connected|\\*"_s)).join(u'\n');
 }
 
 // The commands since the last look, whole and in their order.
@@ -453,13 +467,16 @@ private slots:
         QVERIFY(!m_dialog->isVisible());
     }
 
-    // Whatever is wrong, the screen shows 1920 x 1080 before the question and after it.
+    // Whatever is wrong, the screen shows the same before the question and after it, at a rate that
+    // no mode of the list has.
     void rejects()
     {
         const char *const works = "";
         const char *const fails = "[ $2 = 800x600 ] || exit 1";
         const char *const hangs = "[ $2 = 800x600 ] || exec /bin/sleep 20";
         const char *const goes = "/bin/rm $0";
+        const char *const darkens =
+            "[ $2 = 800x600 ] || { /usr/bin/xrandr --output VNC-0 --off; exit 1; }";
         // The monitor, the stored mode, what is told, and what becomes of xrandr.
         const std::tuple<const char *, QString, QString, const char *, Answer, QString> rows[] = {
             {"none", "1920x1080"_s, NO_EDID, works, Escape, "xrandr -s 0x0 -r 0"_s},
@@ -470,11 +487,15 @@ private slots:
             {"1920x1080", "1920x1080"_s, ""_s, fails, Escape, "xrandr -s 1920x1080 -r 60"_s},
             {"1920x1080", "1920x1080"_s, ""_s, hangs, Wait, "xrandr -s 1920x1080 -r 60"_s},
             {"1920x1080", "1920x1080"_s, ""_s, goes, Terminate, ""_s},
+            {"1920x1080", "1920x1080"_s, ""_s, darkens, Escape, "xrandr -s 1920x1080 -r 60"_s},
         };
+        xrandr("--newmode slow 60 1920 1921 1922 2000 1080 1081 1082 1100"_s);
+        xrandr("--addmode VNC-0 slow"_s);
         std::signal(SIGTERM, [](int) {});
         for (const auto &[monitor, stored, error, becomes, answer, called] : rows) {
             qInfo() << monitor << stored << becomes;
-            QProcess::execute("/usr/bin/xrandr"_s, {"-s"_s, "1920x1080"_s, "-r"_s, "60"_s});
+            const QString before = xrandr("--output VNC-0 --mode slow"_s);
+            QVERIFY2(before.contains("27.27*"_s), qPrintable(before));
             QTRY_COMPARE(QGuiApplication::primaryScreen()->size(), QSize(1920, 1080));
             write("/run/simbox/hdmi"_s, monitor);
             store(stored);
@@ -483,11 +504,31 @@ private slots:
             QVERIFY(offers("800 x 600"_s));
             const auto restored = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
             qputenv("PATH", "/usr/local/bin");
-            const auto xrandr =
+            const auto command =
                 replaced("xrandr", QByteArray(becomes) + "\nexec /usr/bin/xrandr \"$@\"");
             apply({answerQuestion(answer, "xrandr -s 800x600 -r 60"_s)}, called);
+            QCOMPARE(xrandr(), before);
             QTRY_COMPARE(QGuiApplication::primaryScreen()->size(), QSize(1920, 1080));
         }
+    }
+
+    // On a server whose screen can be turned, unlike the box's.
+    void rejectsOnTurnedScreen()
+    {
+        QProcess server;
+        const auto ended = qScopeGuard([&] {
+            qputenv("DISPLAY", ":0");
+            server.kill();
+            server.waitForFinished();
+        });
+        server.start("Xephyr"_s, {":1"_s, "-screen"_s, "1280x1024"_s, "-noreset"_s});
+        qputenv("DISPLAY", ":1");
+        QTRY_VERIFY(xrandr("-o left"_s).contains("1024x1280+0+0 left"_s));
+        const QString before = xrandr();
+        ScreenConfiguration configuration;
+        QVERIFY(xrandr("-s 800x600"_s).contains("600x800"_s));
+        configuration.restoreIfLost({1280, 1024, 60});
+        QCOMPARE(xrandr(), before);
     }
 
     void leaves()

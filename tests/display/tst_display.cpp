@@ -83,16 +83,25 @@ private slots:
         QCOMPARE(placeOnScreen(QRect(30, 30, 1000, 700), screen), QPoint(0, 0));
     }
 
-    // That a command has failed shows in the box's tests, but not with modes of one size.
-    void knowsRejectedMode()
+    // What is shown after the command that is to bring 800 x 600 back, where a monitor of
+    // 1920 x 1080 and one of 1024 x 768 were shown before.
+    void knowsLostPicture()
     {
-        const ScreenConfiguration before{1920, 1080, 1, 50};
-        const DisplayMode wanted{800, 600, 60};
-        QVERIFY(!isRejectedModeLeft(before, before, wanted));
-        QVERIFY(isRejectedModeLeft({1920, 1080, 1, 60}, before, wanted));
-        QVERIFY(isRejectedModeLeft({1920, 1080, 4, 50}, before, wanted)); // upside down
-        QVERIFY(!isRejectedModeLeft({800, 600, 1, 60}, before, wanted));
-        QVERIFY(isRejectedModeLeft({800, 480, 1, 60}, before, wanted));
+        const LitCrtc first{1, 0, 0, 1920, 1080, 50, 1, {7}};
+        const LitCrtc second{2, 1920, 0, 1024, 768, 51, 1, {8}};
+        const std::tuple<const char *, bool, std::vector<LitCrtc>> rows[] = {
+            {"nothing has changed", false, {first, second}},
+            {"the wanted mode", false, {{1, 0, 0, 800, 600, 52, 1, {7}}, second}},
+            {"the wanted mode, upright", false, {{1, 0, 0, 600, 800, 52, 2, {7}}, second}},
+            {"the wanted mode on one monitor", true, {{1, 0, 0, 800, 600, 52, 1, {7}}}},
+            {"another mode", true, {{1, 0, 0, 800, 480, 52, 1, {7}}, second}},
+            {"another rate", true, {{1, 0, 0, 1920, 1080, 60, 1, {7}}, second}},
+            {"upside down", true, {{1, 0, 0, 1920, 1080, 50, 4, {7}}, second}},
+            {"nothing", true, {}},
+        };
+        for (const auto &[what, isLost, now] : rows)
+            QVERIFY2(isPictureLost(now, {first, second}, {800, 600, 60}) == isLost, what);
+        QVERIFY(!isPictureLost({first}, {}, {800, 600, 60}));
     }
 
     // As the board is wired. The simulated box is built from the table and so agrees with it.
