@@ -5,42 +5,35 @@
 #include <QDialog>
 
 #include <atomic>
-#include <cerrno>
-
-#include <sys/eventfd.h>
-#include <unistd.h>
 
 namespace {
 
-// The handler touches these alone: it can interrupt any code, on any thread.
+constexpr int LOOK_MS = 100;
+
+// The handler touches this alone: it can interrupt any code, on any thread.
 std::atomic<int> arrived{0};
-std::atomic<int> wakeUp{-1};
 static_assert(std::atomic<int>::is_always_lock_free);
 
 void hold(int number)
 {
-    const int errnoBefore = errno;
-    const eventfd_t one = 1;
     arrived = number;
-    const ssize_t ignored = write(wakeUp, &one, sizeof(one));
-    Q_UNUSED(ignored)
-    errno = errnoBefore;
 }
 
-// It stays open for good: a handler that is still on its way must not find another file there.
-int wakeUpDescriptor()
+void rejectOpenDialog()
 {
-    if (wakeUp == -1)
-        wakeUp = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    return wakeUp;
+    if (arrived == 0)
+        return;
+    auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (dialog)
+        dialog->reject();
 }
 
 } // namespace
 
 HeldSignals::HeldSignals()
-    : m_arrival(wakeUpDescriptor(), QSocketNotifier::Read)
 {
-    QObject::connect(&m_arrival, &QSocketNotifier::activated, [this] { rejectOpenDialog(); });
+    QObject::connect(&m_nextLook, &QTimer::timeout, &rejectOpenDialog);
+    m_nextLook.start(LOOK_MS);
 
     struct sigaction holding = {};
     holding.sa_handler = hold;
@@ -58,15 +51,4 @@ HeldSignals::~HeldSignals()
         sigaction(SIGNALS[i], &m_before[i], nullptr);
     if (const int number = arrived.exchange(0))
         raise(number);
-}
-
-void HeldSignals::rejectOpenDialog()
-{
-    auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    // One that has just been answered is no longer open; another may follow.
-    if (!dialog)
-        return;
-    eventfd_t ignored = 0;
-    eventfd_read(wakeUp, &ignored);
-    dialog->reject();
 }
