@@ -30,7 +30,6 @@
 #include "display/monitor/edid.h"
 #include "display/monitor/modes.h"
 #include "display/screenconfiguration.h"
-#include "display/screenkeeper.h"
 #include "libOxUtils/utils/log.h"
 #include "maintenance/dialogabout.h"
 #include "maintenance/dialogclock.h"
@@ -81,7 +80,6 @@ DialogMain::DialogMain(QWidget *parent)
     m_timer = new QTimer(this);
     createMenu();
     initConnections();
-    m_screenKeeper = new ScreenKeeper(this);
     readProductFlags();
     m_actPreference->setVisible(hasOtpApplication());
     listMonitorResolutions();
@@ -262,21 +260,18 @@ void DialogMain::btnApply_clicked(bool /*checked*/)
     // A program that ended before the answer would leave a mode that perhaps cannot be seen.
     const HeldSignals untilAnswered;
     ScreenConfiguration before;
-    m_screenKeeper->rememberPlace();
+    const QRect place = geometry();
     // The new mode comes first and the question after it, so that the user judges what can be seen.
     switchScreen(wanted);
     DialogConfirm dialog(this);
-    if (dialog.exec() == QDialog::Accepted)
+    if (dialog.exec() == QDialog::Accepted) {
         keep(wanted);
-    else
-        takeBack(before);
-}
-
-void DialogMain::takeBack(ScreenConfiguration &before)
-{
+        return;
+    }
     switchScreen(m_curResolution);
     before.restoreIfLost(m_curResolution);
-    m_screenKeeper->returnToPlace();
+    // The window manager has moved the window onto a smaller screen and cut it to that.
+    setGeometry(place);
 }
 
 void DialogMain::btnOK_clicked(bool /*checked*/)

@@ -13,8 +13,6 @@
 class QAction;
 class QMenu;
 class QTimer;
-class ScreenConfiguration;
-class ScreenKeeper;
 class Ui_DialogMain;
 
 // The program's one top-level window: the list of display modes, the clock, the language, and the
@@ -88,8 +86,6 @@ private:
     QString selectedItem() const;
     // Stores a mode for the next start and takes it as the current one.
     void keep(const T_Resolution &resolution);
-    // Brings the current mode back, or else what the screen showed before, and the window with it.
-    void takeBack(ScreenConfiguration &before);
 
     void startUpgraderSelf();
     // true: the standard test application; false: the OTP one.
@@ -117,5 +113,4 @@ private:
     QAction *m_actFactoryReset = nullptr;
     QAction *m_actFanSetting = nullptr;
     quint32 m_productFlags = 0;
-    ScreenKeeper *m_screenKeeper = nullptr;
 };

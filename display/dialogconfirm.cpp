@@ -2,7 +2,6 @@
 #include "display/dialogconfirm.h"
 
 #include "display/screenarea.h"
-#include "display/screenkeeper.h"
 #include "libOxUtils/utils/picture.h"
 #include "ui_dialogconfirm.h"
 
@@ -45,7 +44,6 @@ DialogConfirm::DialogConfirm(QWidget *parent)
     connect(ui->m_btnKeepThisConfig, &QPushButton::clicked, this,
             &DialogConfirm::btnKeepThisConfig_clicked);
     connect(&m_countdown, &QTimer::timeout, this, &DialogConfirm::countdown_timeout);
-    new ScreenKeeper(this);
     m_countdown.start(TICK_MS);
 }
 

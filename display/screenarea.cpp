@@ -33,14 +33,6 @@ void waitForScreen(const QSize &size)
     }
 }
 
-QPoint placeOnScreen(const QRect &rect, const QRect &area)
-{
-    const int right = area.right() - rect.width() + 1;
-    const int bottom = area.bottom() - rect.height() + 1;
-    return {qMax(area.left(), qMin(rect.left(), right)),
-            qMax(area.top(), qMin(rect.top(), bottom))};
-}
-
 void centreOnScreen(QWidget *window)
 {
     QRect place(QPoint(), window->size());

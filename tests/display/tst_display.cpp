@@ -4,7 +4,6 @@
 #include "display/gammacurve.h"
 #include "display/i2cdevice.h"
 #include "display/modetext.h"
-#include "display/screenarea.h"
 #include "display/screenconfiguration.h"
 #include "tests/support/box.h"
 #include "tests/support/logcapture.h"
@@ -73,14 +72,6 @@ private slots:
             const GammaCurve curve = gammaCurve(gamma);
             QVERIFY2(std::memcmp(&curve, &wanted, sizeof(curve)) == 0, QByteArray::number(gamma));
         }
-    }
-
-    void placesOnScreen()
-    {
-        const QRect screen(0, 0, 800, 600);
-        QCOMPARE(placeOnScreen(QRect(900, 800, 286, 323), screen), QPoint(514, 277));
-        QCOMPARE(placeOnScreen(QRect(-20, -5, 286, 323), screen), QPoint(0, 0));
-        QCOMPARE(placeOnScreen(QRect(30, 30, 1000, 700), screen), QPoint(0, 0));
     }
 
     // What is shown after the command that is to bring 800 x 600 back, where a monitor of
