@@ -8,6 +8,10 @@
 
 namespace {
 
+// Every version begins with these, whatever the package's own version is.
+constexpr int VERSION_MAJOR = 1;
+constexpr int VERSION_MINOR = 2;
+
 // The zone that versions are told in, UTC+8.
 constexpr int VERSION_ZONE_SECONDS = 8 * 60 * 60;
 

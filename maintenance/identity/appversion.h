@@ -3,8 +3,8 @@
 
 #include <QString>
 
-// The program's version, such as "1.2.921.74336": the project's two version numbers, the build's
-// month and day, its time of day. Needs no application object.
+// The program's version, such as "1.2.921.74336": 1.2 in every build, then the build's month and
+// day, and its time of day. Needs no application object.
 QString GetAppVersion();
 
 // The version of a build at the given date and time, both in the compiler's form and taken as local
