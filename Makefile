@@ -11,7 +11,7 @@ SYSROOT := build/sysroot-armhf
 ARCHITECTURES = $(shell dpkg --print-architecture)
 
 .PHONY: run check check-all check-asan check-qt6 check-armhf check-package check-reproducible check-source \
-	screenshots lint packages build package package-tools armhf-tools board check-board
+	screenshots update-translations lint packages build package package-tools armhf-tools board check-board
 
 # The tool in the simulated box, in a browser page, on a screen small enough to be read there.
 run: PARTS := moniconf moniconf-edid catalogues
@@ -45,6 +45,10 @@ screenshots: packages
 	cmake --preset release -B build/pictures -DBUILD_TESTING=OFF
 	cmake --build build/pictures -j $(JOBS)
 	docs/screenshots.py build/pictures build/screenshots
+
+# Enters in the catalogues what is new among the texts.
+update-translations: PARTS := update-translations
+update-translations: build
 
 build: packages
 	cmake --preset release -DMONICONF_WERROR=$(WERROR)

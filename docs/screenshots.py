@@ -26,12 +26,12 @@ from driver import keys, output, wait_for  # noqa: E402
 
 DENSITIES = (96, 192)
 # What README and manuals show.
-SHOWN = ('main', 'question', 'menu', 'clock', 'fan', 'preference', 'about', 'gamma')
+ON_PAGES = 'main question menu clock fan preference about gamma'.split()
 IMAGES = {f'{place}{name}.png': f'{locale}-96/{name}.png'
-          for place, locale in (('', 'en_US'), ('zh_CN/', 'zh_CN')) for name in SHOWN}
+          for place, locale in (('', 'en_US'), ('zh_CN/', 'zh_CN')) for name in ON_PAGES}
 PICTURES = Path('/tmp/pictures')
 SETTLED = 0.4       # seconds that a window takes to be painted, and to be painted again
-BLINKING = ('clock', 'fan', 'gamma')    # of those, what has a text cursor
+BLINKING = 'clock fan gamma'.split()    # of those, what has a text cursor
 # For the tool, whose timers run on.
 STOPPED_CLOCK = ('TZ=CST-8', 'FAKETIME=2026-01-15 09:41:27', 'FAKETIME_DONT_FAKE_MONOTONIC=1')
 
