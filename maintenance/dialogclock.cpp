@@ -3,6 +3,7 @@
 
 #include "ui_dialogclock.h"
 
+#include <QCalendarWidget>
 #include <QDateTime>
 #include <QFile>
 
@@ -30,6 +31,9 @@ DialogClock::DialogClock(QWidget *parent)
     , ui(new Ui::DialogClock)
 {
     ui->setupUi(this);
+    // The toolkit measures the days' short names without the week's first one, and may cut that.
+    ui->m_dateTimeEdit->calendarWidget()->setHorizontalHeaderFormat(
+        QCalendarWidget::SingleLetterDayNames);
 }
 
 DialogClock::~DialogClock() = default;

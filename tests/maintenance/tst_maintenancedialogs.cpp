@@ -44,7 +44,8 @@ QString shown(QWidget *dialog)
     QStringList fields;
     for (const auto *part : dialog->findChildren<QWidget *>()) {
         const auto *label = qobject_cast<const QLabel *>(part);
-        if (part->inherits("QLineEdit") || part->property("checked").toBool())
+        if (part->isVisible() &&
+            (part->inherits("QLineEdit") || part->property("checked").toBool()))
             fields << part->property("text").toString();
         else if (label && label->isVisible() && label->objectName().contains(filled))
             fields << (label->property("pixmap").value<QPixmap>().isNull() ? whole(*label)
