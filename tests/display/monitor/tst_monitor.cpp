@@ -112,7 +112,8 @@ private slots:
             {"MAG, none", Block().set(8, "34270000ffffffff"), "MAG\nSerial number: ffffffff\n"},
             {"OQI", Block().set(8, "3e290000f14b301b"), "OQI\nSerial number: 00000001\n"},
             {"VSC", Block().set(8, "5a630000ff9f2526"), "VSC\nSerial number: ffffffff\n"},
-            {"no height", Block().timing(0, 9, 9, 9, 0, 0), "9x0\t\t1 Hz (detailed)\ntiming -1: "},
+            {"no height, then the last", Block().timing(0, 9, 9, 9, 0, 0).timing(3, 9, 8, 7, 6, 5),
+             "9x0\t\t1 Hz (detailed)\n\t8x6\t\t545 Hz (detailed)\ntiming 0: 8x6, "},
             {"two timings", Block(FULL_HD).timing(1, 1, 1001, 9, 9, 9),
              "\t1001x9 \t0 Hz (detailed)\ntiming 0: 1920x1080, "},
         };
@@ -142,9 +143,11 @@ private slots:
              "4 normal modes\nmoniconf-edid: xga: the list stops before 1280 x 960, which has "
              "1228800 pixels, more than the 786432"},
             {"--modes bare"_s, INVALID, "", "bare: no usable detailed timing"},
-            {"missing short whole"_s, TROUBLE, "short:\nNot a valid EDID\nwhole:\n" + whole,
-             "missing: No such file or directory\nmoniconf-edid: short: only 127 "},
-            {"--bus /dev/null"_s, TROUBLE, "", "/dev/null: "}, // an emulator has its own reason
+            {"short whole"_s, INVALID, "short:\nNot a valid EDID\nwhole:\n" + whole,
+             "short: only 127 "},
+            // An emulator has its own reason.
+            {"missing --bus /dev/null"_s, TROUBLE, "",
+             "missing: No such file or directory\nmoniconf-edid: /dev/null: "},
             {"--modes /dev/i2c-1"_s, TROUBLE, "", "type: --bus /dev/i2c-1"},
             {"--modes"_s, TROUBLE, "", "no file"},
         };
