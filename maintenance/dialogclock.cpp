@@ -31,9 +31,8 @@ DialogClock::DialogClock(QWidget *parent)
     , ui(new Ui::DialogClock)
 {
     ui->setupUi(this);
-    // The toolkit measures the days' short names without the week's first one, and may cut that.
-    ui->m_dateTimeEdit->calendarWidget()->setHorizontalHeaderFormat(
-        QCalendarWidget::SingleLetterDayNames);
+    // The toolkit leaves the week's first day out when it measures the names of the days.
+    ui->m_dateTimeEdit->calendarWidget()->setMinimumWidth(15 * fontMetrics().height());
 }
 
 DialogClock::~DialogClock() = default;

@@ -38,7 +38,8 @@ private:
                       bool /*isEnabled*/, const QString &text,
                       QPalette::ColorRole /*role*/) const override
     {
-        if (!QRectF(place).contains(painter->boundingRect(QRectF(place), flags, text)))
+        // A line may be higher than its place by what is rounded off.
+        if (!place.adjusted(0, -1, 0, 1).contains(painter->boundingRect(place, flags, text)))
             cutTexts << text;
     }
 };
