@@ -5,6 +5,7 @@
 #include "app/globalvars.h"
 #include "app/startup.h"
 #include "display/fbdevice.h"
+#include "maintenance/dialogclock.h"
 #include "maintenance/identity/appversion.h"
 #include "tests/support/box.h"
 #include "tests/support/logcapture.h"
@@ -63,6 +64,24 @@ void prepare()
              0);
 }
 
+// Types into what has the focus. A word with a capital is the name of a key, or Click with how
+// often the dialog's field is clicked.
+void press(QWidget *dialog, const QString &keys)
+{
+    for (const QString &word : keys.simplified().split(u' ')) {
+        QVERIFY2(dialog->isVisible(), "keys for a dialog that has been answered");
+        const int clicks = word.startsWith("Click"_s) ? word.right(1).toInt() : 0;
+        if (clicks > 1)
+            QTest::mouseDClick(dialog->findChild<QLineEdit *>(), Qt::LeftButton);
+        if (clicks % 2 == 1)
+            QTest::mouseClick(dialog->findChild<QLineEdit *>(), Qt::LeftButton);
+        if (clicks == 0) {
+            word.at(0).isUpper() ? QTest::keySequence(dialog->focusWidget(), word)
+                                 : QTest::keyClicks(dialog->focusWidget(), word);
+        }
+    }
+}
+
 } // namespace
 
 class TestMaintenanceDialogs : public QObject
@@ -72,8 +91,8 @@ class TestMaintenanceDialogs : public QObject
     std::unique_ptr<DialogMain> m_window;
 
     // Double-clicks on the clock, presses a function key, or chooses an entry of the menu. The
-    // dialogs that come are answered with one list of keys each, such as "7 Tab 9 Return|Return";
-    // a word with a capital is the name of a key. A command can be run while the first is open.
+    // dialogs that come are answered with one list of keys each, such as "7 Tab 9 Return|Return".
+    // A command can be run while the first is open.
     // Gives in their order what the dialogs show, the window's log and critical messages.
     QByteArray open(const QByteArray &what, const QByteArray &keys,
                     const QByteArray &meanwhile = "")
@@ -84,10 +103,7 @@ class TestMaintenanceDialogs : public QObject
                 qInfo().noquote() << shown(dialog);
                 QCOMPARE(std::system(meanwhile), 0);
                 setClock(QDateTime::currentDateTime().addSecs(5));
-                for (const QString &word : QString::fromLatin1(answer).split(u' ')) {
-                    word.at(0).isUpper() ? QTest::keySequence(dialog->focusWidget(), word)
-                                         : QTest::keyClicks(dialog->focusWidget(), word);
-                }
+                press(dialog, QString::fromLatin1(answer));
             });
         }
         box::forgetCalls();
@@ -159,17 +175,15 @@ private slots:
         const QByteArray both = read("://calclock.sh"_s) + read("://autobootapp.sh"_s);
         QCOMPARE(QCryptographicHash::hash(both, QCryptographicHash::Sha1).toHex(),
                  QByteArray("a689a66b5dee148d7d5bd486829ff790f9e7ac86"));
-        QGuiApplication::clipboard()->setText("2027-03-15 08:30:59\n"_s);
         const QByteArray rows[][4] = {
             // The keys, what is in the way; then the date that is set, and what is told or logged.
             {"Return", "", "2026-01-31 23:10:20", ""},
-            {"2027-03-15 Space 8:30:59 Return", "", "2027-03-15 08:30:59", ""},
-            {"20270315083059 Return", "", "2027-03-15 08:30:59", ""},
-            {"Ctrl+A 2027-2-3 Space 4:5:6 Return", "", "2027-02-03 04:05:06", ""},
-            {"2027/2/3 Space 4.5.6 Return", "", "2027-02-03 04:05:06", ""},
-            {"Ctrl+V Return", "", "2027-03-15 08:30:59", ""},
-            {"End 07 Return", "", "2026-01-31 23:10:07", ""},
-            {"2027--15 Return", "", "2027-01-15 23:10:20", ""}, // the month stays
+            {"Home Shift+End 20270315083059 Return", "", "2027-03-15 08:30:59", ""},
+            {"2027-13-15 Space 8:30:59 Return", "", "2026-01-31 23:10:20", ""},
+            {"Ctrl+A 2027 Return", "", "2026-01-31 23:10:20", ""},
+            {"2026-0 Backspace Backspace Backspace 7-3 Return", "", "2027-03-31 23:10:20", ""},
+            {"Tab Tab Tab Tab 8 Up Tab 7 Return", "", "2026-01-31 23:09:07", ""},
+            {"End 08 Tab Shift+Tab End 07 Return", "", "2026-01-31 23:10:07", ""},
             {"Escape", "", "", ""},
             {"Return", "rm -f /tmp/calclock.sh; mkdir -p /tmp/calclock.sh/x", "",
              "|void DialogMain::lblDateTime_mouseDoubleClicked(): Copying calclock.sh failed."},
@@ -185,6 +199,50 @@ private slots:
                      date.isEmpty() ? date : "date -s " + date + "\nhwclock -w\n");
             // The old copy stays when nothing is run.
             QCOMPARE(QFile::exists("/tmp/calclock.sh"_s), date.isEmpty());
+        }
+    }
+
+    // However one comes to the editor, it ends on the date that is typed or pasted, or on the one
+    // before. It takes each date that is pasted, and those that are typed from the year on.
+    void clockEditor()
+    {
+        const auto list = [](const char *texts) { return QString::fromLatin1(texts).split(u'|'); };
+        const QStringList fromYear = list("Tab|Tab Home|Tab Ctrl+A|Tab Home Shift+End|"
+                                          "Tab End Shift+Home|Click1 Shift+Home|Click3");
+        const QStringList elsewhere = list("Click1|Click2|Tab End|Tab Right|Click1 Shift+End");
+        const QStringList dates = list("2033-01-02 03:04:05|2033-1-2t3:4:5|2033/1/2 3.4.5\n");
+        const QStringList noDates = list("hello|2033-13-02 03:04:05|2033-02-29 03:04:05|"
+                                         "2033-01-02 24:04:05|2033-01-02 03:04:055|"
+                                         "203-01-02 03:04:05|1033-01-02 03:04:05");
+        const QStringList parts = list("|2033|2033-01-02|03:04:05"); // set when typed
+        const QString before = "2026-01-31 23:10:20"_s;
+        DialogClock dialog(nullptr);
+        QWidget *const cancel = dialog.findChildren<QPushButton *>().last();
+        dialog.show();
+        QTRY_VERIFY(dialog.isActiveWindow());
+        for (const QString &way : fromYear + elsewhere) {
+            for (const QString &erasing : list("| Delete| Backspace| Ctrl+X")) {
+                for (const QString &text : dates + noDates + parts) {
+                    for (const bool isPasted : {true, false}) {
+                        if (!isPasted && parts.contains(text))
+                            continue;
+                        dialog.SetDateTime(QDateTime::fromString(before, "yyyy-MM-dd H:mm:ss"_s));
+                        cancel->setFocus();
+                        press(&dialog, way + erasing);
+                        QGuiApplication::clipboard()->setText(text);
+                        const QString keys = QString(text).replace(u' ', " Space "_s);
+                        press(&dialog, isPasted ? "Ctrl+V"_s : keys);
+                        if (!isPasted)
+                            cancel->setFocus();
+                        const QString after = dialog.findChild<QLineEdit *>()->text();
+                        const bool isDate = dates.contains(text);
+                        const bool mayStay = !isDate || (!isPasted && elsewhere.contains(way));
+                        QVERIFY2(after == before ? mayStay
+                                                 : isDate && after == "2033-01-02 3:04:05"_s,
+                                 qPrintable(way + erasing + u' ' + text + " gives "_s + after));
+                    }
+                }
+            }
         }
     }
 
