@@ -19,7 +19,6 @@
 #include "app/guards/heldsignals.h"
 #include "app/languages.h"
 #include "app/shellprofile.h"
-#include "app/shortenedmessage.h"
 #include "app/upgrader.h"
 #include "display/boxmode.h"
 #include "display/dialogconfirm.h"
@@ -134,7 +133,7 @@ void DialogMain::showError(const QString &text)
     ErrorBox box(*this, tr("Error"), text);
     box.exec();
     if (box.IsShortened())
-        oxlog::critical(OX_LOG_HERE, oxlog::quoted(loggableMessage(text)));
+        oxlog::critical(OX_LOG_HERE, oxlog::quoted(text));
 }
 
 void DialogMain::keyPressEvent(QKeyEvent *event)

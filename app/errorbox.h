@@ -12,14 +12,12 @@ class ErrorBox : public QMessageBox
 public:
     ErrorBox(QWidget &parent, const QString &title, const QString &text);
 
-    // Whether the box has shown another text than the one given; known after exec().
-    bool IsShortened() const { return m_isShortened; }
+    // Whether the text ends early, with an ellipsis; known after exec().
+    bool IsShortened() const;
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
     void fitScreen();
-
-    bool m_isShortened = false;
 };

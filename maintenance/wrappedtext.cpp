@@ -9,11 +9,12 @@
 
 namespace {
 
-// Whether a label would start a line there, or show a box.
+// Whether a label would start a line there, or show a box, beside the line feed.
 bool isControl(QChar character)
 {
-    return character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
-           character == QChar::ParagraphSeparator;
+    return character != u'\n' &&
+           (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator);
 }
 
 } // namespace
@@ -22,6 +23,7 @@ QString wrappedText(const QString &text, const QFont &font, int width, int mostL
 {
     QString rest = text;
     std::replace_if(rest.begin(), rest.end(), isControl, u' ');
+    rest.replace(u'\n', QChar(QChar::LineSeparator));
     QTextLayout layout(rest, font);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -33,12 +35,12 @@ QString wrappedText(const QString &text, const QFont &font, int width, int mostL
         if (!line.isValid())
             break;
         if (lines.size() == mostLines - 1) {
-            lines << QFontMetrics(font).elidedText(rest.mid(line.textStart()), Qt::ElideRight,
-                                                   width);
+            const QString last = rest.mid(line.textStart()).replace(QChar::LineSeparator, u' ');
+            lines << QFontMetrics(font).elidedText(last, Qt::ElideRight, width);
             break;
         }
         line.setLineWidth(width);
-        lines << rest.mid(line.textStart(), line.textLength());
+        lines << rest.mid(line.textStart(), line.textLength()).remove(QChar::LineSeparator);
     }
     layout.endLayout();
     return lines.join(u'\n');
