@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/languagebox.h"
 
-#include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QWheelEvent>
 
 LanguageBox::LanguageBox(QWidget *parent)
@@ -11,11 +9,7 @@ LanguageBox::LanguageBox(QWidget *parent)
 {
     // The toolkit's own takes the focus from the wheel as well, before it hears of it.
     setFocusPolicy(Qt::StrongFocus);
-}
-
-void LanguageBox::contextMenuEvent(QContextMenuEvent *event)
-{
-    event->ignore();
+    setContextMenuPolicy(Qt::NoContextMenu);
 }
 
 void LanguageBox::keyPressEvent(QKeyEvent *event)
@@ -24,14 +18,6 @@ void LanguageBox::keyPressEvent(QKeyEvent *event)
         event->ignore();
     else
         QComboBox::keyPressEvent(event);
-}
-
-void LanguageBox::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton)
-        QComboBox::mousePressEvent(event);
-    else
-        event->ignore();
 }
 
 void LanguageBox::wheelEvent(QWheelEvent *event)

@@ -5,8 +5,8 @@
 
 // The main window's choice of language, a combo box that leaves to its window what is meant for it:
 // key presses with Ctrl, which the toolkit's own takes for the start of an item's name, so that the
-// window's Ctrl+E would be lost; the right button, with which it would open its list in place of
-// the window's menu; and the wheel as long as another widget has the focus.
+// window's Ctrl+E would be lost; the right click, which it would swallow; and the wheel as long as
+// another widget has the focus.
 class LanguageBox : public QComboBox
 {
     Q_OBJECT
@@ -15,8 +15,6 @@ public:
     explicit LanguageBox(QWidget *parent = nullptr);
 
 protected:
-    void contextMenuEvent(QContextMenuEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 };
