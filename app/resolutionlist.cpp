@@ -11,9 +11,12 @@
 #include <algorithm>
 #include <iterator>
 
-ResolutionList::ResolutionList(QWidget *parent)
-    : QListWidget(parent)
+void ResolutionList::reset()
 {
+    QListWidget::reset();
+    // Only a list that has been told its current row, be it none, leaves that alone when it gets
+    // the focus.
+    setCurrentIndex(QModelIndex());
 }
 
 QSize ResolutionList::sizeHint() const
@@ -26,23 +29,6 @@ QSize ResolutionList::sizeHint() const
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     const int frame = 2 * frameWidth();
     return {text + scrollBar + frame, rows + frame};
-}
-
-void ResolutionList::focusInEvent(QFocusEvent *event)
-{
-    if (currentRow() >= 0) {
-        QListWidget::focusInEvent(event);
-        return;
-    }
-    // The class between would choose a row here.
-    QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
-    viewport()->update();
-}
-
-void ResolutionList::focusOutEvent(QFocusEvent *event)
-{
-    QListWidget::focusOutEvent(event);
-    viewport()->update();
 }
 
 void ResolutionList::mousePressEvent(QMouseEvent *event)

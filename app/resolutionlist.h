@@ -13,14 +13,14 @@ class ResolutionList : public QListWidget
     Q_OBJECT
 
 public:
-    explicit ResolutionList(QWidget *parent = nullptr);
+    using QListWidget::QListWidget;
 
     // Room for all ten standard modes, whatever the screen's density.
     QSize sizeHint() const override;
 
+    void reset() override;
+
 protected:
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
