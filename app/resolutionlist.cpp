@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/resolutionlist.h"
 
-#include "display/modetext.h"
 #include "display/monitor/modes.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 
-#include <algorithm>
 #include <iterator>
 
 void ResolutionList::reset()
@@ -21,10 +19,7 @@ void ResolutionList::reset()
 
 QSize ResolutionList::sizeHint() const
 {
-    int text = 0;
-    for (const T_ResolutionEntry &entry : ALL_RESOLUTIONS) {
-        text = std::max(text, fontMetrics().horizontalAdvance(modeItem(entry.mode())));
-    }
+    const int text = fontMetrics().horizontalAdvance(QStringLiteral("0000 x 0000"));
     const int rows = fontMetrics().height() * static_cast<int>(std::size(ALL_RESOLUTIONS));
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     const int frame = 2 * frameWidth();
