@@ -54,9 +54,10 @@ void DialogConfirm::fitSmallestMode()
     const QMargins margins = layout()->contentsMargins();
     const int widest =
         static_cast<int>(WIDEST / devicePixelRatioF()) - margins.left() - margins.right();
-    if (ui->horizontalLayout_2->sizeHint().width() > widest)
-        ui->horizontalLayout_2->setDirection(QBoxLayout::TopToBottom);
-    const int widestText = widest - ui->label_2->minimumWidth() - ui->horizontalLayout->spacing();
+    if (ui->horizontalLayout->sizeHint().width() > widest)
+        ui->horizontalLayout->setDirection(QBoxLayout::TopToBottom);
+    const int widestText =
+        widest - ui->label_2->minimumWidth() - ui->gridLayout->horizontalSpacing();
     for (QLabel *text : {ui->label, ui->m_lblQuestion}) {
         QSize size = text->sizeHint();
         if (size.width() > widestText) {
