@@ -17,7 +17,6 @@ namespace {
 constexpr int RETRY_MS = 20;
 constexpr char END_OF_MESSAGE = '\0';
 constexpr char ANSWER = '\x06'; // ASCII acknowledge
-constexpr qint64 MAX_MESSAGE_BYTES = 65536;
 
 QString basePath()
 {
@@ -32,16 +31,6 @@ bool isPeerSameUser(const QLocalSocket &socket)
     socklen_t length = sizeof(peer);
     const int fd = static_cast<int>(socket.socketDescriptor());
     return getsockopt(fd, SOL_SOCKET, SO_PEERCRED, &peer, &length) == 0 && peer.uid == getuid();
-}
-
-void answerWhenComplete(QLocalSocket *peer)
-{
-    if (peer->peek(MAX_MESSAGE_BYTES).contains(END_OF_MESSAGE)) {
-        peer->write(&ANSWER, 1);
-        peer->disconnectFromServer();
-    } else if (peer->bytesAvailable() >= MAX_MESSAGE_BYTES) {
-        peer->abort();
-    }
 }
 
 // True when the running instance has answered.
@@ -68,47 +57,43 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled
     : QApplication(argc, argv)
     , m_basePath(basePath())
     , m_lock(m_basePath + QStringLiteral(".lock"))
-    , m_role(Role::Second)
 {
-    Q_ASSERT(guiEnabled);
     Q_UNUSED(guiEnabled)
-
     connect(&m_server, &QLocalServer::newConnection, this,
             &QtSingleApplication::answerPendingConnections);
-    m_role = takeRole();
+    m_isSecond = !becomeFirst();
 }
 
-QtSingleApplication::Role QtSingleApplication::takeRole()
+bool QtSingleApplication::becomeFirst()
 {
     switch (m_lock.take()) {
     case InstanceLock::Result::Taken:
         break;
     case InstanceLock::Result::Held:
-        return Role::Second;
+        return false;
     case InstanceLock::Result::Unusable:
         oxlog::critical(OX_LOG_HERE,
                         QStringLiteral("Locking %1.lock failed, running without a lock.")
                             .arg(m_basePath));
-        return Role::Alone;
+        return true;
     }
 
     // The lock is ours, so a socket that stands there is left over.
     const QString socketPath = m_basePath + QStringLiteral(".socket");
     QLocalServer::removeServer(socketPath);
-    if (m_server.listen(socketPath))
-        return Role::Running;
-
-    oxlog::critical(OX_LOG_HERE, QStringLiteral("Listening on %1 failed: %2")
-                                     .arg(socketPath, m_server.errorString()));
-    // Held, it would make every other start wait for an answer in vain.
-    m_lock.release();
-    return Role::Alone;
+    if (!m_server.listen(socketPath)) {
+        oxlog::critical(OX_LOG_HERE, QStringLiteral("Listening on %1 failed: %2")
+                                         .arg(socketPath, m_server.errorString()));
+        // Held, it would make every other start wait for an answer in vain.
+        m_lock.release();
+    }
+    return true;
 }
 
 bool QtSingleApplication::sendMessage(const QString &message, int timeout)
 {
     const QDeadlineTimer deadline(timeout);
-    while (m_role == Role::Second && !deadline.hasExpired()) {
+    while (m_isSecond && !deadline.hasExpired()) {
         QLocalSocket socket;
         socket.connectToServer(m_basePath + QStringLiteral(".socket"));
         if (socket.waitForConnected(static_cast<int>(deadline.remainingTime()))) {
@@ -119,9 +104,9 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
         }
         // The other instance is still starting, or it has ended meanwhile.
         QThread::msleep(RETRY_MS);
-        m_role = takeRole();
+        m_isSecond = !becomeFirst();
     }
-    if (m_role == Role::Second)
+    if (m_isSecond)
         oxlog::critical(OX_LOG_HERE, QStringLiteral("The running instance gives no answer."));
     return false;
 }
@@ -130,12 +115,10 @@ void QtSingleApplication::answerPendingConnections()
 {
     while (QLocalSocket *peer = m_server.nextPendingConnection()) {
         connect(peer, &QLocalSocket::disconnected, peer, &QObject::deleteLater);
-        if (!isPeerSameUser(*peer)) {
-            peer->abort();
-            continue;
-        }
-        peer->setReadBufferSize(MAX_MESSAGE_BYTES);
-        connect(peer, &QLocalSocket::readyRead, peer, [peer] { answerWhenComplete(peer); });
-        answerWhenComplete(peer);
+        // Whatever it says: it asks whether anybody is there.
+        connect(peer, &QLocalSocket::readyRead, peer, [peer] {
+            peer->write(&ANSWER, 1);
+            peer->disconnectFromServer();
+        });
     }
 }

@@ -23,17 +23,13 @@ public:
     [[nodiscard]] bool sendMessage(const QString &message, int timeout = 5000);
 
 private:
-    enum class Role {
-        Running, // others talk to this one
-        Second,  // somebody else holds the lock
-        Alone,   // the lock or the socket cannot be made, and the log says why
-    };
-
-    Role takeRole();
+    // False while somebody else holds the lock. Where lock or socket cannot be made, this is the
+    // first as well, and the log says why.
+    bool becomeFirst();
     void answerPendingConnections();
 
     const QString m_basePath;
     InstanceLock m_lock;
     QLocalServer m_server;
-    Role m_role;
+    bool m_isSecond = true;
 };
