@@ -36,19 +36,10 @@ bool isPeerSameUser(const QLocalSocket &socket)
 // True when the running instance has answered.
 bool exchange(QLocalSocket &socket, const QString &message, const QDeadlineTimer &deadline)
 {
-    const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
-
     socket.write(message.toUtf8() + END_OF_MESSAGE);
-    while (socket.bytesToWrite() > 0) {
-        if (!socket.waitForBytesWritten(remaining()))
-            return false;
-    }
     char answer = 0;
-    while (socket.bytesAvailable() == 0) {
-        if (!socket.waitForReadyRead(remaining()))
-            return false;
-    }
-    return socket.read(&answer, 1) == 1 && answer == ANSWER;
+    return socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())) &&
+           socket.read(&answer, 1) == 1 && answer == ANSWER;
 }
 
 } // namespace
