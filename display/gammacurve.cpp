@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/gammacurve.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -24,11 +25,7 @@ std::int32_t toInteger(double value)
     using Limits = std::numeric_limits<std::int32_t>;
     if (std::isnan(value))
         return 0;
-    if (value >= Limits::max())
-        return Limits::max();
-    if (value <= Limits::min())
-        return Limits::min();
-    return static_cast<std::int32_t>(value);
+    return static_cast<std::int32_t>(std::clamp<double>(value, Limits::min(), Limits::max()));
 }
 
 } // namespace
