@@ -15,7 +15,9 @@
 
 namespace {
 
-// The values of the setting "AutoStartApp"; any other than 0 is read as the OTP application.
+const QString AUTO_START_APP = QStringLiteral("Preference/AutoStartApp");
+
+// Its values; any other than 0 is read as the OTP application.
 constexpr int STARTS_STANDARD = 0;
 constexpr int STARTS_OTP = 1;
 
@@ -81,22 +83,17 @@ QStringList DialogPreference::desktopFiles() const
 
 void DialogPreference::LoadPreference()
 {
-    QSettings settings(settingsFile(), QSettings::IniFormat);
-    settings.beginGroup(QStringLiteral("Preference"));
-    const bool isOtp = settings.value(QStringLiteral("AutoStartApp")).toInt() != STARTS_STANDARD;
+    const QSettings settings(settingsFile(), QSettings::IniFormat);
+    const bool isOtp = settings.value(AUTO_START_APP).toInt() != STARTS_STANDARD;
     QRadioButton *const chosen = isOtp ? ui->m_rdoVxotp : ui->m_rdoVexastd;
     chosen->setChecked(true);
     chosen->setFocus();
-    settings.endGroup();
 }
 
 void DialogPreference::SavePreference()
 {
     QSettings settings(settingsFile(), QSettings::IniFormat);
-    settings.beginGroup(QStringLiteral("Preference"));
-    settings.setValue(QStringLiteral("AutoStartApp"),
-                      ui->m_rdoVexastd->isChecked() ? STARTS_STANDARD : STARTS_OTP);
-    settings.endGroup();
+    settings.setValue(AUTO_START_APP, ui->m_rdoVexastd->isChecked() ? STARTS_STANDARD : STARTS_OTP);
     // Written here and not by the destructor, which tells nobody when it fails.
     settings.sync();
     // A format error is that of the old content, which has been replaced.
