@@ -9,18 +9,16 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
-#include <iterator>
 #include <unistd.h>
 
 QByteArray localeLine(const QString &item)
 {
-    const auto *const chosen =
-        std::find_if(std::begin(LANGUAGES), std::end(LANGUAGES), [&item](const Language &language) {
-            return item == QLatin1String(language.item);
-        });
-    const Language &language = chosen == std::end(LANGUAGES) ? FALLBACK_LANGUAGE : *chosen;
-    return {language.localeLine.data(), static_cast<int>(language.localeLine.size())};
+    std::string_view line = FALLBACK_LANGUAGE.localeLine;
+    for (const Language &language : LANGUAGES) {
+        if (item == QLatin1String(language.item))
+            line = language.localeLine;
+    }
+    return {line.data(), static_cast<int>(line.size())};
 }
 
 qint64 localeLineOffset(const QByteArray &profile)
