@@ -45,19 +45,15 @@ QString rendered(const ConfFile::T_ConfItem &item)
     return line.trimmed();
 }
 
-// Opens a file that has to be there already. False when that fails; error then says why.
-bool openExisting(QFile &file, QIODevice::OpenMode mode, QString &error)
+// Opens a file that has to be there already. Why that fails; empty when it does not.
+QString openExisting(QFile &file, QIODevice::OpenMode mode)
 {
-    if (!file.exists()) {
-        error = QStringLiteral("File does not exist...");
-        return false;
-    }
+    if (!file.exists())
+        return QStringLiteral("File does not exist...");
     // Anything but a file, a pipe for one, could hold the program for ever.
-    if (!QFileInfo(file).isFile() || !file.open(mode | QIODevice::Text)) {
-        error = oxlog::quoted(QStringLiteral("Cannot open file: %1!").arg(file.fileName()));
-        return false;
-    }
-    return true;
+    if (!QFileInfo(file).isFile() || !file.open(mode | QIODevice::Text))
+        return oxlog::quoted(QStringLiteral("Cannot open file: %1!").arg(file.fileName()));
+    return {};
 }
 
 } // namespace
@@ -114,8 +110,8 @@ bool ConfFile::SaveConf()
 bool ConfFile::loadToStringList(QStringList &lines)
 {
     QFile file(m_fileName);
-    QString error;
-    if (!openExisting(file, QIODevice::ReadOnly, error)) {
+    const QString error = openExisting(file, QIODevice::ReadOnly);
+    if (!error.isEmpty()) {
         oxlog::critical(OX_LOG_HERE, error);
         return false;
     }
@@ -138,8 +134,8 @@ bool ConfFile::loadToStringList(QStringList &lines)
 bool ConfFile::saveFromStringList(const QStringList &lines)
 {
     QFile file(m_fileName);
-    QString error;
-    if (!openExisting(file, QIODevice::WriteOnly, error)) {
+    const QString error = openExisting(file, QIODevice::WriteOnly);
+    if (!error.isEmpty()) {
         oxlog::critical(OX_LOG_HERE, error);
         return false;
     }
