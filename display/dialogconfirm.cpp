@@ -59,13 +59,10 @@ void DialogConfirm::fitSmallestMode()
     const int widestText =
         widest - ui->label_2->minimumWidth() - ui->gridLayout->horizontalSpacing();
     for (QLabel *text : {ui->label, ui->m_lblQuestion}) {
-        QSize size = text->sizeHint();
-        if (size.width() > widestText) {
-            text->setWordWrap(true);
-            size = {widestText, text->heightForWidth(widestText)};
-        }
+        const int width = qMin(text->sizeHint().width(), widestText);
+        text->setWordWrap(true);
         // The window keeps its size when the number gets shorter.
-        text->setFixedSize(size);
+        text->setFixedSize(width, text->heightForWidth(width));
     }
 }
 
