@@ -109,6 +109,7 @@ Action confirmError(const QString &text)
         const bool isCut = shown.endsWith(u'\u2026');
         shown.chop(isCut ? 1 : 0);
         QVERIFY(isCut ? whole.startsWith(shown) && shown.size() > 50 : shown == whole);
+        QVERIFY(box->text().startsWith(text.left(2))); // its first line end, or more
         QVERIFY(box->icon() == QMessageBox::Critical && box->textFormat() == Qt::PlainText);
         const auto *label = box->findChild<QLabel *>("qt_msgbox_label"_s);
         QTRY_VERIFY(label->width() >= label->minimumSizeHint().width());
@@ -450,6 +451,7 @@ private slots:
         for (Answer answer : {Restore, Escape, Wait})
             apply({answerQuestion(answer, there)}, "xrandr -s 1360x768 -r 75"_s);
         const QString stored = "fw_setenv display 800x600@60"_s;
+        const QString noughts(3000, u'0');
         QString numbers;
         for (int number = 1; number < 100000; ++number)
             numbers += QString::number(number) + u'\n';
@@ -457,7 +459,7 @@ private slots:
             // what it does, its words, and what is logged of them when not all are shown
             {"echo no >&2; exit 1", "no\n"_s, ""_s},
             {"sleep 2; seq 99999 >&2; exit 1", numbers, "C \""_s + numbers + u'"'},
-            {"printf %01000d 0 >&2; exit 1", QString(1000, u'0'), ""_s},
+            {"printf %03000d 0 >&2; exit 1", noughts, "C \""_s + noughts + u'"'},
             {"printf %0999d 0 | sed s/0/\u65e0/g >&2; exit 1", QString(999, u'\u65e0'), ""_s},
         };
         for (const auto &[script, shows, logs] : failures) {
