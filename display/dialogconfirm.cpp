@@ -75,10 +75,6 @@ void DialogConfirm::showEvent(QShowEvent *event)
     // Placed before the window is mapped, so that nobody sees it move.
     centreOnScreen(this);
     moveButtonsFromPointer();
-    // Whoever types on without looking must end up with the mode that could be seen before.
-    ui->m_btnRestorePreConfig->setFocus();
-    raise();
-    activateWindow();
 }
 
 void DialogConfirm::moveEvent(QMoveEvent *event)
