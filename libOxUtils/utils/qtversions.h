@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What differs between the toolkit's versions, from 5.11 to 6; only commandline.h and commandline.cpp
-// have more of it.
+// What differs between the toolkit's versions, from 5.11 to 6; only commandline.h and
+// commandline.cpp have more of it.
 #pragma once
 
 #include <QLibraryInfo>

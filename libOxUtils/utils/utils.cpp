@@ -25,15 +25,8 @@ namespace {
 constexpr int SCRIPT_WAIT_MS = 30000;
 constexpr int ACQUIRE_WAIT_MS = 5;
 
-QString startFailed()
-{
-    return QStringLiteral("Starting process failed - waitForStarted.");
-}
-
-QString finishTimedOut()
-{
-    return QStringLiteral("Executing process timeout - waitForFinished.");
-}
+const QString START_FAILED = QStringLiteral("Starting process failed - waitForStarted.");
+const QString FINISH_TIMED_OUT = QStringLiteral("Executing process timeout - waitForFinished.");
 
 QString textUpToNul(const QByteArray &bytes)
 {
@@ -54,11 +47,11 @@ bool Utils::ExecShellCommand(const QString &command, QString &output, QString &e
     CommandProcess process;
     startCommand(process, command);
     if (!process.waitForStarted(startTimeoutMs)) {
-        oxlog::critical(OX_LOG_HERE, startFailed());
+        oxlog::critical(OX_LOG_HERE, START_FAILED);
         return false;
     }
     if (!process.waitForFinished(finishTimeoutMs)) {
-        oxlog::critical(OX_LOG_HERE, finishTimedOut());
+        oxlog::critical(OX_LOG_HERE, FINISH_TIMED_OUT);
         return false;
     }
     output = textUpToNul(process.readAllStandardOutput());
@@ -76,11 +69,11 @@ bool Utils::ExecPipeShellCommand(const QString &firstCommand, const QString &sec
     startCommand(first, firstCommand);
     startCommand(second, secondCommand);
     if (!first.waitForStarted(startTimeoutMs) || !second.waitForStarted(startTimeoutMs)) {
-        oxlog::critical(OX_LOG_HERE, startFailed());
+        oxlog::critical(OX_LOG_HERE, START_FAILED);
         return false;
     }
     if (!first.waitForFinished(finishTimeoutMs) || !second.waitForFinished(finishTimeoutMs)) {
-        oxlog::critical(OX_LOG_HERE, finishTimedOut());
+        oxlog::critical(OX_LOG_HERE, FINISH_TIMED_OUT);
         return false;
     }
     output = textUpToNul(second.readAllStandardOutput());
