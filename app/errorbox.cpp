@@ -6,9 +6,12 @@
 
 #include <QLabel>
 
+#include <limits>
+
 namespace {
 
-constexpr QChar ELLIPSIS = u'\u2026';
+// Stands for what is left out.
+const QString GAP = QStringLiteral("\n\u2026\n");
 
 // The most characters of a text that are looked at: it may have megabytes.
 constexpr int MOST_CHARACTERS = 2000;
@@ -19,15 +22,28 @@ constexpr int SCREEN_MARGIN = 40;
 // What the smallest screen has room for. On larger ones the toolkit lets no box be much wider.
 constexpr int WIDEST = 800 - SCREEN_MARGIN;
 
-QString beginning(const QString &text)
+QString firstAndLastCharacters(const QString &text)
 {
-    return text.size() <= MOST_CHARACTERS ? text : text.left(MOST_CHARACTERS) + ELLIPSIS;
+    if (text.size() <= MOST_CHARACTERS)
+        return text;
+    return text.left(MOST_CHARACTERS / 2) + GAP + text.right(MOST_CHARACTERS / 2);
+}
+
+// The gap takes one of the lines.
+QString firstAndLastLines(const QStringList &lines, int most)
+{
+    if (lines.size() <= most)
+        return lines.join(u'\n');
+    const int first = most / 2;
+    const int last = most - first - 1;
+    return lines.mid(0, first).join(u'\n') + GAP + lines.mid(lines.size() - last).join(u'\n');
 }
 
 } // namespace
 
 ErrorBox::ErrorBox(QWidget &parent, const QString &title, const QString &text)
-    : QMessageBox(QMessageBox::Critical, title, beginning(text), QMessageBox::Ok, &parent)
+    : QMessageBox(QMessageBox::Critical, title, firstAndLastCharacters(text), QMessageBox::Ok,
+                  &parent)
 {
     // The text can be another program's.
     setTextFormat(Qt::PlainText);
@@ -35,7 +51,7 @@ ErrorBox::ErrorBox(QWidget &parent, const QString &title, const QString &text)
 
 bool ErrorBox::IsShortened() const
 {
-    return text().endsWith(ELLIPSIS);
+    return text().contains(GAP);
 }
 
 void ErrorBox::showEvent(QShowEvent *event)
@@ -54,12 +70,14 @@ void ErrorBox::fitScreen()
     if (!label || (height() <= highest && label->minimumSizeHint().width() <= label->width()))
         return;
     // The toolkit makes it half of the screen wide, and breaks no word.
-    const QString whole = text();
     const int widestText = WIDEST - width() + label->width();
-    int lines = (highest - height() + label->height()) / label->fontMetrics().lineSpacing();
+    const QStringList lines =
+        wrappedText(text(), label->font(), widestText, std::numeric_limits<int>::max())
+            .split(u'\n');
+    int most = (highest - height() + label->height()) / label->fontMetrics().lineSpacing();
     label->setMinimumWidth(widestText);
     do {
         // Lines in another font, for what the label's own cannot write, are higher.
-        setText(wrappedText(whole, label->font(), widestText, lines));
-    } while (height() > highest && --lines > 0);
+        setText(firstAndLastLines(lines, most));
+    } while (height() > highest && --most > 0);
 }

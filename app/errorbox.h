@@ -3,8 +3,9 @@
 
 #include <QMessageBox>
 
-// A modal box with an error's text, as much of it as the screen can take, and one OK button. It
-// opens over its parent, or in the middle of the screen while the parent is not shown yet.
+// A modal box with an error's text and one OK button. Of a text that the screen cannot take it
+// shows the beginning and the end. It opens over its parent, or in the middle of the screen while
+// the parent is not shown yet.
 class ErrorBox : public QMessageBox
 {
     Q_OBJECT
@@ -12,7 +13,7 @@ class ErrorBox : public QMessageBox
 public:
     ErrorBox(QWidget &parent, const QString &title, const QString &text);
 
-    // Whether the text ends early, with an ellipsis; known after exec().
+    // Whether something is left out of the text; known after exec().
     bool IsShortened() const;
 
 protected:
