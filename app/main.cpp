@@ -8,9 +8,7 @@
 // clang-format on
 #include "app/dialogmain.h"
 #include "app/globalvars.h"
-#include "app/guards/answeredguard.h"
-#include "app/guards/keyrepeatguard.h"
-#include "app/guards/modalfocusguard.h"
+#include "app/guards/inputguard.h"
 #include "app/qtsingleapplication.h"
 #include "app/startup.h"
 #include "libOxUtils/utils/log.h"
@@ -63,13 +61,8 @@ int main(int argc, char *argv[])
         oxlog::critical(OX_LOG_AT(OWN_CATALOGUE_MISSING), failed.arg(ownCatalogue));
     QCoreApplication::installTranslator(&ownTranslator);
 
-    ModalFocusGuard focusGuard;
-    app.installNativeEventFilter(&focusGuard);
-    AnsweredGuard answeredGuard;
-    app.installEventFilter(&answeredGuard);
-    // Asked first, so that it sees every release.
-    KeyRepeatGuard repeatGuard;
-    app.installEventFilter(&repeatGuard);
+    InputGuard inputGuard;
+    app.installEventFilter(&inputGuard);
 
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/image/moniconf.png")));
     DialogMain dialog;

@@ -15,16 +15,11 @@ constexpr auto SKIP_EMPTY_PARTS = QString::SkipEmptyParts;
 #endif
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-// What a native event filter may tell the window system.
-using NativeEventResult = qintptr;
-
 inline QString toolkitTranslationsPath()
 {
     return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
 }
 #else
-using NativeEventResult = long;
-
 inline QString toolkitTranslationsPath()
 {
     return QLibraryInfo::location(QLibraryInfo::TranslationsPath);

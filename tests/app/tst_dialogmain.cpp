@@ -2,7 +2,7 @@
 // The main window on the box's own files, devices and recorded commands: runs inside the simulated
 // box only.
 #include "app/dialogmain.h"
-#include "app/guards/modalfocusguard.h"
+#include "app/guards/inputguard.h"
 #include "app/startup.h"
 #include "display/dialogconfirm.h"
 #include "display/screenconfiguration.h"
@@ -167,7 +167,7 @@ class TestDialogMain : public QObject
 {
     Q_OBJECT
 
-    ModalFocusGuard m_focusGuard; // matchbox is at work in the box
+    InputGuard m_inputGuard; // matchbox is at work in the box
     std::unique_ptr<ModalAnswers> m_deadline;
     std::unique_ptr<DialogMain> m_dialog;
     QString m_transfers;
@@ -234,7 +234,7 @@ private slots:
     {
         if (!QFile::exists("/run/simbox/hdmi"_s))
             QFAIL("not in the simulated box");
-        QCoreApplication::instance()->installNativeEventFilter(&m_focusGuard);
+        QCoreApplication::instance()->installEventFilter(&m_inputGuard);
         qputenv("TZ", "BOX-5"); // hours away from universal time
     }
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/guards/instancelock.h"
-#include "app/guards/keyrepeatguard.h"
 #include "app/shellprofile.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/syncedfile.h"
 #include "tests/support/text.h"
 
-#include <QKeyEvent>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -88,36 +86,6 @@ private slots:
         QCOMPARE(outlivesTheHolder.state(), QProcess::Running);
         outlivesTheHolder.kill();
         QVERIFY(outlivesTheHolder.waitForFinished());
-    }
-
-    void heldKeys()
-    {
-        enum Held { Acts, Repeats };
-        const std::tuple<const char *, Held, Qt::Key, Qt::KeyboardModifier, const char *> rows[] = {
-            {"starts the upgrader", Acts, Qt::Key_F12, Qt::NoModifier, ""},
-            {"presses a button", Acts, Qt::Key_Return, Qt::NoModifier, "\r"},
-            {"opens the prompt", Acts, Qt::Key_E, Qt::ControlModifier, "e"},
-            {"presses a button by its letter", Acts, Qt::Key_Y, Qt::AltModifier, "y"},
-            {"types a capital", Repeats, Qt::Key_E, Qt::ShiftModifier, "E"},
-            {"moves in the list", Repeats, Qt::Key_Down, Qt::NoModifier, ""},
-        };
-        for (const auto &[what, held, key, modifiers, text] : rows) {
-            KeyRepeatGuard guard;
-            for (const QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress}) {
-                // Whether or not the toolkit has noticed that the key is held.
-                for (const bool isMarked : {true, false}) {
-                    QKeyEvent release(QEvent::KeyRelease, key, modifiers, QString(), isMarked);
-                    QKeyEvent press(type, key, modifiers, QLatin1String(text), isMarked);
-                    release.setTimestamp(1660);
-                    press.setTimestamp(1660);
-                    QVERIFY2(!guard.eventFilter(this, &release), what);
-                    QVERIFY2(guard.eventFilter(this, &press) == (held == Acts), what);
-                }
-                QKeyEvent pressedByHand(type, key, modifiers, QLatin1String(text));
-                pressedByHand.setTimestamp(1790);
-                QVERIFY2(!guard.eventFilter(this, &pressedByHand), what);
-            }
-        }
     }
 };
 

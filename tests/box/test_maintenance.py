@@ -22,6 +22,21 @@ class Maintenance(unittest.TestCase):
         wait_for_window('About...')
         driver.hold('Escape')
         wait_for_window('Display Settings')
+        # Opened by Enter, a message stays to be read.
+        keys('ctrl+e')
+        wait_for_window('Please Input Instruction')
+        keys('a')
+        driver.hold('Return')
+        wait_for_window('Error')
+        keys('Return')
+        # What moves in the list goes on moving.
+        wait_for_window('Display Settings')
+        driver.hold('Up')
+        click(self.window, *driver.APPLY)
+        wait_for_window('Information')
+        self.assertEqual(driver.screen_size(), '800x600')
+        keys('Return')
+        wait_for_window('Display Settings')
 
     @unittest.skipIf(driver.BOARD, 'the pauses between clicks cannot be kept there')
     def test_bursts(self):
