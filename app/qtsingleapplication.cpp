@@ -47,7 +47,6 @@ bool exchange(QLocalSocket &socket, const QString &message, const QDeadlineTimer
 QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled)
     : QApplication(argc, argv)
     , m_basePath(basePath())
-    , m_lock(m_basePath + QStringLiteral(".lock"))
 {
     Q_UNUSED(guiEnabled)
     connect(&m_server, &QLocalServer::newConnection, this,
@@ -57,7 +56,7 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled
 
 bool QtSingleApplication::becomeFirst()
 {
-    switch (m_lock.take()) {
+    switch (m_lock.take(m_basePath + QStringLiteral(".lock"))) {
     case InstanceLock::Result::Taken:
         break;
     case InstanceLock::Result::Held:

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/guards/instancelock.h"
 
-#include <QFile>
-
 #include <cerrno>
 
 #include <fcntl.h>
@@ -22,39 +20,18 @@ bool isOwnFile(int fd)
 
 } // namespace
 
-InstanceLock::InstanceLock(const QString &fileName)
-    : m_fileName(QFile::encodeName(fileName))
-{
-}
-
-InstanceLock::~InstanceLock()
-{
-    release();
-}
-
-InstanceLock::Result InstanceLock::take()
+InstanceLock::Result InstanceLock::take(const QString &fileName)
 {
     release();
     // Looked at once it is open, so that nobody can exchange it in between. Opening follows no
     // link and waits for nobody at the other end of a pipe; programs started later do not inherit
     // the lock; and other users, who may not open the file, cannot hold it.
-    m_fd = open(m_fileName.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
-                S_IRUSR | S_IWUSR);
-    if (m_fd != -1 && isOwnFile(m_fd)) {
-        if (flock(m_fd, LOCK_EX | LOCK_NB) == 0)
-            return Result::Taken;
-        if (errno == EWOULDBLOCK) {
-            release();
-            return Result::Held;
-        }
-    }
-    release();
-    return Result::Unusable;
-}
-
-void InstanceLock::release()
-{
-    if (m_fd != -1)
-        close(m_fd);
-    m_fd = -1;
+    const int fd =
+        open(QFile::encodeName(fileName).constData(),
+             O_RDONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (fd == -1 || !m_file.open(fd, QIODevice::ReadOnly, QFile::AutoCloseHandle) || !isOwnFile(fd))
+        return Result::Unusable;
+    if (flock(fd, LOCK_EX | LOCK_NB) == 0)
+        return Result::Taken;
+    return errno == EWOULDBLOCK ? Result::Held : Result::Unusable;
 }

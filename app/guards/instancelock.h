@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include <QFile>
 
 // The lock that one instance holds. The kernel keeps it and ends it with the process, however that
 // ends: what a crash or a power cut leaves behind is a file and no lock. The file itself is never
@@ -17,16 +16,11 @@ public:
         Unusable, // not to be created, or not a file of this user's own
     };
 
-    // Takes the path; nothing is opened yet.
-    explicit InstanceLock(const QString &fileName);
-    ~InstanceLock();
-    Q_DISABLE_COPY(InstanceLock)
-
-    // Creates the file if it is missing and locks it. Never waits.
-    Result take();
-    void release();
+    // Creates the file if it is missing and locks it until the lock is released, taken again or
+    // destroyed. Never waits.
+    Result take(const QString &fileName);
+    void release() { m_file.close(); }
 
 private:
-    const QByteArray m_fileName;
-    int m_fd = -1;
+    QFile m_file;
 };

@@ -67,7 +67,7 @@ private slots:
             const QTemporaryDir directory;
             const QString there = "cd %1; echo 2 >other; "_s.arg(directory.path());
             QCOMPARE(std::system(qPrintable(there + QLatin1String(make))), 0);
-            QVERIFY2(InstanceLock(directory.filePath("lock"_s)).take() == result, make);
+            QVERIFY2(InstanceLock().take(directory.filePath("lock"_s)) == result, make);
         }
     }
 
@@ -76,13 +76,13 @@ private slots:
         const QString file = m_directory.filePath("lock"_s);
         QProcess outlivesTheHolder;
         {
-            InstanceLock holder(file);
-            QCOMPARE(holder.take(), Lock::Taken);
+            InstanceLock holder;
+            QCOMPARE(holder.take(file), Lock::Taken);
             QVERIFY(!(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther)));
             outlivesTheHolder.start("cat"_s, QStringList());
             QVERIFY(outlivesTheHolder.waitForStarted());
         }
-        QCOMPARE(InstanceLock(file).take(), Lock::Taken);
+        QCOMPARE(InstanceLock().take(file), Lock::Taken);
         QCOMPARE(outlivesTheHolder.state(), QProcess::Running);
         outlivesTheHolder.kill();
         QVERIFY(outlivesTheHolder.waitForFinished());
