@@ -3,9 +3,9 @@
 
 #include <QMessageBox>
 
-// A modal box with an error's text and one OK button. Of a text that the screen cannot take it
-// shows the beginning and the end. It opens over its parent, or in the middle of the screen while
-// the parent is not shown yet.
+// A modal box with an error's text and one OK button. Of a text that has more than 2000 characters,
+// or that the screen cannot take, it shows the beginning and the end. It opens over its parent, or
+// in the middle of the screen while the parent is not shown yet.
 class ErrorBox : public QMessageBox
 {
     Q_OBJECT

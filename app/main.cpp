@@ -25,7 +25,7 @@
 int main(int argc, char *argv[])
 {
     // A window does not end because nobody reads its log, or waits for its answer, any more. The
-    // programs that the toolkit starts get the default back.
+    // commands that it waits for get the default back from the toolkit.
     std::signal(SIGPIPE, SIG_IGN);
     if (isVersionQuery(argc, argv)) {
         std::printf("moniconf %s\n", GetAppVersion().toUtf8().constData());

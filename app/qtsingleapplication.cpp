@@ -15,8 +15,8 @@
 namespace {
 
 constexpr int RETRY_MS = 20;
-constexpr char END_OF_MESSAGE = '\0';
-constexpr char ANSWER = '\x06'; // ASCII acknowledge
+constexpr char END_OF_MESSAGE = '\0'; // an older version waits for it before it answers
+constexpr char ANSWER = '\x06';       // ASCII acknowledge
 
 QString basePath()
 {

@@ -69,9 +69,6 @@ void DialogConfirm::fitSmallestMode()
 void DialogConfirm::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    // From here on the window manager shows and hides what the user has placed.
-    if (event->spontaneous())
-        return;
     // Placed before the window is mapped, so that nobody sees it move.
     centreOnScreen(this);
     moveButtonsFromPointer();

@@ -4,10 +4,6 @@
 #define OX_LOG_FILE "screenconfiguration"
 #include "libOxUtils/utils/log.h"
 
-#include "display/screenarea.h"
-
-#include <QSize>
-
 #include <algorithm>
 #include <cstdlib>
 #include <tuple>
@@ -75,7 +71,7 @@ std::vector<LitCrtc> ScreenConfiguration::shown()
     xcb_connection_t *const x = m_x.get();
     if (xcb_connection_has_error(x) != 0)
         return found;
-    // Without being told a version the server takes the requests for those of the oldest.
+    // Every client has to say first which version it speaks.
     xcb_randr_query_version(x, 1, 3);
     const auto request = xcb_randr_get_screen_resources_current(x, screen(x).root);
     const auto resources = owned(xcb_randr_get_screen_resources_current_reply(x, request, nullptr));
@@ -120,5 +116,4 @@ void ScreenConfiguration::restoreIfLost(const DisplayMode &wanted)
                     QStringLiteral("xrandr has not brought the picture back, which %1.")
                         .arg(isBack ? QStringLiteral("is shown again")
                                     : QStringLiteral("cannot be shown again")));
-    waitForScreen(QSize(m_before.front().width, m_before.front().height));
 }

@@ -40,8 +40,7 @@ public:
     ScreenConfiguration();
 
     // To be called after the command that takes a rejected mode back: when the picture is lost,
-    // sets what was shown, over RandR, and logs that and whether it could. Returns when the toolkit
-    // knows the new size or after half a second without it.
+    // sets what was shown, over RandR, and logs that and whether it could.
     void restoreIfLost(const DisplayMode &wanted);
 
 private:

@@ -28,10 +28,8 @@ void DateTimeEdit::focusOutEvent(QFocusEvent *event)
     lineEdit()->setModified(false);
 }
 
-QValidator::State DateTimeEdit::validate(QString &text, int &place) const
+QValidator::State DateTimeEdit::validate(QString &text, int & /*place*/) const
 {
-    QString parsed = text;
-    QDateTimeEdit::validate(parsed, place); // finds the parts that keys and the wheel go to
     return dateTimeFromText(text).isValid() ? QValidator::Acceptable : QValidator::Invalid;
 }
 

@@ -6,9 +6,10 @@
 // An editor that reads its whole text with each key: while that is a date, it is the value; while
 // it is none, the value is the one from before the typing, and comes back when the editor is left.
 // A date has the numbers of the display format in their order, the year with four digits, the
-// others with one or two, and anything between them. Typing goes over the parts from the cursor's
-// on; a digit too many for a part begins the next one. The toolkit's editor corrects or refuses
-// each key by itself, and so makes another date of one that is typed over a selection.
+// others with one or two, and anything between them. Typing goes over what is selected, or else
+// over the parts from the cursor's on; a digit too many for a part begins the next one; a paste by
+// key replaces the whole. The toolkit's editor corrects or refuses each key by itself, and so makes
+// another date of one that is typed over a selection.
 class DateTimeEdit : public QDateTimeEdit
 {
 public:

@@ -7,8 +7,8 @@
 #include <QProcess>
 #include <QString>
 
-// A process in a session of its own: Ctrl+C in the tool's terminal reaches every program of the
-// terminal's session, and would end a command in the middle of what it writes.
+// A process in a session of its own: Ctrl+C in a terminal reaches the tool and what it has started
+// alike, and would end a command in the middle of what it writes.
 class CommandProcess : public QProcess
 {
 public:
