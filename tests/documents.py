@@ -86,7 +86,7 @@ def log_messages():
                        r'(?:QStringLiteral\("(.*?)"|(\w+))', source)}
         for site, line in re.findall(r'^ +position\((\w+), (\d+)\)', source, re.M):
             row = rows.pop(f'{Path(name).stem}:{line}', '')
-            text = re.escape(written.get(site, '')).replace('%1', '.*')
+            text = re.escape(written.get(site, 'never written')).replace('%1', '.*')
             if not row or not re.match(text, row):
                 yield f'{INTEGRATION} has not for {name}:{line}: {written.get(site)}'
         for text in re.findall(r'oxlog::critical\([^;]*?QStringLiteral\(\s*"(.*?)"', source):

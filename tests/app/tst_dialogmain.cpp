@@ -84,18 +84,6 @@ QString transfers()
     return seen.replace(QRegularExpression("(\\w+ failed), \\1, \\1"_s), "\\1 3 times"_s);
 }
 
-// The window's messages but for the modes that it has read.
-QString logged()
-{
-    QStringList found;
-    for (const auto &[type, file, line, function, text] : LogCapture::messages()) {
-        if (file == "dialogmain"_s && !text.contains("0x"_s))
-            found << (type == QtCriticalMsg ? "critical "_s : "debug "_s) + QString::number(line) +
-                         u' ' + text;
-    }
-    return found.join(", "_s);
-}
-
 Action confirmError(const QString &text)
 {
     return [=](QWidget *widget) {
@@ -202,8 +190,8 @@ class TestDialogMain : public QObject
     QString items() const
     {
         QStringList texts;
-        for (int row = 0; row < list()->count(); ++row)
-            texts << list()->item(row)->text();
+        for (const QListWidgetItem *item : list()->findItems(QString(), Qt::MatchContains))
+            texts << item->text();
         return texts.join(", "_s);
     }
 
@@ -240,7 +228,7 @@ private slots:
 
     void init()
     {
-        m_deadline = std::make_unique<ModalAnswers>(std::vector<Action>(), 10000);
+        m_deadline = std::make_unique<ModalAnswers>(std::vector<Action>());
         write("/run/simbox/vga"_s, "none");
         write("/run/simbox/hdmi"_s, "1920x1080");
         store("1360x768M@75"_s);
@@ -271,29 +259,6 @@ private slots:
         QTest::keyClick(label, Qt::Key_Space);
     }
 
-    // On a product without the OTP application, whose settings can be left all the same.
-    void menu()
-    {
-        write("/etc/orvex/barcode.txt"_s, "O\nB\n463AB001");
-        open();
-        const QList<QAction *> actions = widget<QMenu>()->actions();
-        QStringList entries;
-        for (const QAction *action : actions)
-            entries << (action->isVisible() ? action->text() : "hidden"_s);
-        QCOMPARE(entries.join(", "_s),
-                 "Upgrade Application, Upgrade File System, hidden, Factory Reset, Fan Setting"_s);
-        QStringList offered;
-        const Action cancel = [&](QWidget *choice) {
-            offered << qobject_cast<QInputDialog *>(choice)->comboBoxItems().join(u' ');
-            pressButton(choice, QDialogButtonBox::Cancel);
-        };
-        const auto agree = [](QWidget *query) { pressButton(query, QDialogButtonBox::Yes); };
-        const ModalAnswers modal({cancel, agree, cancel});
-        actions[0]->trigger();
-        actions[3]->trigger();
-        QCOMPARE(offered.join(", "_s), "vexastd, vexastd vxotp"_s);
-    }
-
     // The monitors and a file that is missing; what their lines see, and what comes of it.
     void monitors()
     {
@@ -301,8 +266,7 @@ private slots:
         const char *const onlyHdmi = "vga on, vga failed 3 times, hdmi answered, vga off";
         const char *const rows[][5] = {
             {"none", "1920x1080", none, onlyHdmi, "8 modes"},
-            {"1280x1024", "640x480", none, "vga on, vga answered, vga off", "4 modes"},
-            {"/tmp/sum.edid", "none", none, "vga on, vga answered, vga off", "8 modes"},
+            {"/tmp/sum.edid", "640x480", none, "vga on, vga answered, vga off", "8 modes"},
             {"fail2:1280x1024", "1920x1080", none,
              "vga on, vga failed, vga failed, vga answered, vga off", "4 modes"},
             {"fail3:1280x1024", "1920x1080", none, onlyHdmi, "8 modes"},
@@ -311,11 +275,8 @@ private slots:
             {"1280x1024", "1920x1080", "/sys/class/leds/vga-i2c-enb/brightness",
              "vga failed 3 times, hdmi answered", "8 modes"},
             {"1280x1024", "1920x1080", "/dev/i2c-2", "vga on, hdmi answered, vga off", "8 modes"},
-            {"none", "640x480", none, onlyHdmi, "0 modes"},
             {"none", "none", none, "vga on, vga failed 3 times, hdmi failed 3 times, vga off",
              "Cannot read edid information."},
-            {"none", "garbage", none, onlyHdmi, "Cannot read edid information."},
-            {"none", "no-timing", none, onlyHdmi, "Parsing edid information failed."},
         };
         write("/tmp/sum.edid"_s, EdidBlock().timing(0, 14850, 1920, 280, 1080, 45).set(127, "55"));
         for (const auto &[vga, hdmi, missing, seen, result] : rows) {
@@ -339,7 +300,6 @@ private slots:
             {"echo 800x600M@75", "800 x 600"_s, "D 800x600@75, D 800x600@60"_s, ""_s},
             {"echo 1280x960", ""_s, "D 1280x960@60"_s, ""_s},
             {"echo 800x600@", ""_s, "D 800x600@0"_s, NO_MODE},
-            {"echo", ""_s, ""_s, NO_MODE},
             {"echo no words >&2; exit 1", ""_s, "C \"no words\n\""_s, NO_MODE},
         };
         for (const auto &[command, current, logged, told] : rows) {
@@ -398,20 +358,14 @@ private slots:
     void rightClick()
     {
         open();
-        bool hasMenu = false;
-        QTimer look;
-        connect(&look, &QTimer::timeout, this, [&] {
-            QWidget *const popup = QApplication::activePopupWidget();
-            hasMenu = hasMenu || qobject_cast<QMenu *>(popup);
-            if (popup)
-                popup->close();
-        });
-        look.start(50);
-        for (const char *place : {"m_listResolution", "m_cmbLanguage", "m_btnApply", "label"}) {
-            hasMenu = false;
+        auto *menu = widget<QMenu>();
+        const QSignalSpy shown(menu, &QMenu::aboutToShow);
+        connect(menu, &QMenu::aboutToShow, menu, &QMenu::close, Qt::QueuedConnection);
+        const char *const places[] = {"m_listResolution", "m_cmbLanguage", "m_btnApply", "label"};
+        for (int i = 0; i < 4; ++i) {
             QTest::mouseClick(m_dialog->windowHandle(), Qt::RightButton, Qt::NoModifier,
-                              widget<QWidget>(place)->mapTo(m_dialog.get(), QPoint(20, 8)));
-            QTRY_VERIFY2(hasMenu, place);
+                              widget<QWidget>(places[i])->mapTo(m_dialog.get(), QPoint(20, 8)));
+            QTRY_VERIFY2(shown.count() == i + 1, places[i]);
             QCOMPARE(selected(), "1360 x 768"_s);
         }
     }
@@ -559,15 +513,15 @@ private slots:
             QVERIFY(!m_dialog->isVisible());
             QCOMPARE(box::calls(), QString());
             QCOMPARE(read(PROFILE), after);
-            QCOMPARE(logged(), log);
+            QCOMPARE(capture.texts("dialogmain"_s).join(u'|'), log);
         };
-        const QString chinese = "debug 586 \"Chinese\""_s;
-        const QString english = "debug 586 \"English\""_s;
+        const QString chinese = "D 1360x768@60|D \"Chinese\""_s;
+        const QString english = "D 1360x768@60|D \"English\""_s;
         leaves("1360 x 768"_s, ""_s, "m_btnOK", "export LANG=zh_CN.UTF-8\n", chinese);
         leaves("1360 x 768"_s, "English"_s, "m_btnOK", "export LANG=en_US.UTF-8\n", english);
-        leaves("none"_s, "English"_s, "m_btnOK", "export LANG=en_US.UTF-8\n", english);
+        leaves("none"_s, "English"_s, "m_btnOK", "export LANG=en_US.UTF-8\n", "D \"English\""_s);
         leaves("1360 x 768"_s, "Chinese"_s, "m_btnOK", QByteArray(),
-               chinese + ", critical 594 Open /etc/profile failed"_s);
+               chinese + "|C Open /etc/profile failed"_s);
         leaves("800 x 600"_s, "English"_s, "m_btnCancel", untouched, ""_s);
         leaves("800 x 600"_s, "English"_s, nullptr, untouched, ""_s);
     }
@@ -597,7 +551,7 @@ private slots:
             const auto shift = typed ? Qt::NoModifier : Qt::ShiftModifier;
             QTest::keyClick(from, Qt::Key_E, Qt::ControlModifier | shift);
             QCOMPARE(read(TERMINAL), QByteArray(after));
-            QCOMPARE(logged(), log);
+            QCOMPARE(capture.texts("dialogmain"_s).join(u'|'), log);
         };
         types("LowerHarborGate", "m_listResolution", shown, hidden, ""_s);
         types("LiftHarborGate", "m_cmbLanguage", hidden, shown, ""_s);
@@ -605,10 +559,10 @@ private slots:
         for (const char *unknown :
              {"%1 %2", "liftharborgate", " LiftHarborGate", "LiftHarborGate2", "LowerHarborGate2"})
             types(unknown, "m_btnOK", "NoDisplay=\n", "NoDisplay=\n",
-                  "debug 135 Unkown instruction: '%1'!"_s.arg(QLatin1String(unknown)));
+                  "D Unkown instruction: '%1'!"_s.arg(QLatin1String(unknown)));
         types(nullptr, "m_btnOK", nullptr, nullptr, ""_s);
         types("", "m_btnOK", nullptr, nullptr, ""_s);
-        types("x", "m_btnOK", nullptr, nullptr, "critical 124 Loading configure file failed."_s);
+        types("x", "m_btnOK", nullptr, nullptr, "C Loading configure file failed."_s);
     }
 
     // The last one: the font stays.

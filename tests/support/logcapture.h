@@ -11,10 +11,8 @@ public:
     struct Message
     {
         QtMsgType type;
-        QString file;
         int line;
-        QString function;
-        QString text;
+        QString file, function, text;
     };
 
     LogCapture() { s_messages.clear(); }
@@ -39,7 +37,7 @@ public:
 private:
     static void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
     {
-        s_messages.append({type, QString::fromUtf8(context.file), context.line,
+        s_messages.append({type, context.line, QString::fromUtf8(context.file),
                            QString::fromUtf8(context.function), text});
     }
 

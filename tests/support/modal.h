@@ -19,11 +19,9 @@ class ModalAnswers : public QObject
 public:
     using Action = std::function<void(QWidget *)>;
 
-    explicit ModalAnswers(std::vector<Action> actions, int timeoutMs = 20000)
+    explicit ModalAnswers(std::vector<Action> actions)
         : m_actions(std::move(actions))
-        , m_timeoutMs(timeoutMs)
     {
-        m_sinceLast.start();
         startTimer(5);
     }
 
@@ -38,7 +36,7 @@ private:
     {
         QWidget *const dialog = QApplication::activeModalWidget();
         if (std::exchange(m_current, dialog) != dialog)
-            m_sinceLast.restart();
+            m_sinceLast.start();
         if (!dialog)
             return;
         if (m_used < m_actions.size() && !dialog->property("seen").toBool()) {
@@ -47,12 +45,12 @@ private:
             // another dialog.
             QTimer::singleShot(0, dialog, [this, dialog, action = m_actions[m_used++]] {
                 action(dialog);
-                m_sinceLast.restart();
+                m_sinceLast.start();
                 // The action has ended early, and nobody else will answer.
                 if (QTest::currentTestFailed())
                     dialog->close();
             });
-        } else if (m_sinceLast.hasExpired(m_timeoutMs)) {
+        } else if (m_sinceLast.hasExpired(10000)) {
             dialog->close();
             const QString what = dialog->windowTitle() + u' ' + dialog->property("text").toString();
             QFAIL(qPrintable(QStringLiteral("nobody answers, or closes, ") + what));
@@ -60,7 +58,6 @@ private:
     }
 
     const std::vector<Action> m_actions;
-    const int m_timeoutMs;
     std::size_t m_used = 0;
     QWidget *m_current = nullptr;
     QElapsedTimer m_sinceLast;
