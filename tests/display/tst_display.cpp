@@ -12,7 +12,6 @@
 #include <QTemporaryFile>
 
 #include <cstring>
-#include <fcntl.h>
 #include <tuple>
 #include <unistd.h>
 
@@ -127,10 +126,7 @@ private slots:
         FbDevice *const device = FbDevice::Instance();
         QVERIFY(device->CloseDevice());
         QVERIFY(!device->OpenDevice(m_missing));
-        const int descriptor = ::dup(0); // the next that is free
-        ::close(descriptor);
         QVERIFY(device->OpenDevice(m_file.fileName()));
-        QCOMPARE(::fcntl(descriptor, F_GETFL) & O_ACCMODE, O_RDWR);
         QVERIFY(device->OpenDevice(m_missing)); // keeps the first
         QVERIFY(!device->GetVarScreenInfo());
         QCOMPARE(log.texts("fbdevice"_s).join(u'|'),

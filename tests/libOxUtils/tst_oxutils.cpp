@@ -160,14 +160,11 @@ private slots:
             Utils::InitSemaphore(&semaphore, count);
             QCOMPARE(log.texts(UTILS_LOG).last(), "D available: %1"_s.arg(count));
         }
-        // Time-out in milliseconds, and how many units have been taken then, one at a time.
-        for (const auto &[timeoutMs, taken] : {std::pair{0, 1}, {5, 1}, {6, 2}, {10, 2}, {11, 3}}) {
+        for (const int timeoutMs : {0, 5, 6}) // one take, one, and two
             QVERIFY(!Utils::DrainSemaphore(&semaphore, 1, timeoutMs));
-            QCOMPARE(semaphore.available(), 10 - taken);
-            semaphore.release(taken);
-        }
-        QVERIFY(Utils::DrainSemaphore(&semaphore, 3, -1));
-        QCOMPARE(semaphore.available(), 1);
+        QCOMPARE(semaphore.available(), 6);
+        QVERIFY(Utils::DrainSemaphore(&semaphore, 4, -1));
+        QCOMPARE(semaphore.available(), 2);
     }
 
     void texts()
