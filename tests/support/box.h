@@ -2,6 +2,8 @@
 // Files, and what the stand-ins of the simulated box record.
 #pragma once
 
+#include "tests/support/text.h"
+
 #include <QFile>
 #include <QtTest>
 
@@ -28,13 +30,13 @@ inline QByteArray read(const QString &fileName)
 // the lines is recorded when its turn comes.
 inline QString calls()
 {
-    static const QRegularExpression fetching(QStringLiteral("(?m)^(i2c|\\w+ switched) .*\n"));
-    return QString::fromUtf8(read(QStringLiteral("/run/simbox/calls"))).remove(fetching);
+    static const QRegularExpression fetching("(?m)^(i2c|\\w+ switched) .*\n"_s);
+    return QString::fromUtf8(read("/run/simbox/calls"_s)).remove(fetching);
 }
 
 inline void forgetCalls()
 {
-    QFile::resize(QStringLiteral("/run/simbox/calls"), 0);
+    QFile::resize("/run/simbox/calls"_s, 0);
 }
 
 } // namespace box
