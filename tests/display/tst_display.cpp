@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "display/connectors.h"
-#include "display/fbdevice.h"
 #include "display/gammacurve.h"
 #include "display/i2cdevice.h"
 #include "display/modetext.h"
 #include "display/screenconfiguration.h"
 #include "tests/support/box.h"
 #include "tests/support/logcapture.h"
-#include "tests/support/text.h"
 
 #include <QTemporaryFile>
 
@@ -19,12 +17,7 @@ class TestDisplay : public QObject
 {
     Q_OBJECT
 
-    QTemporaryFile m_file;
-    const QString m_missing = "/nowhere/%1"_s;
-
 private slots:
-    void initTestCase() { QVERIFY(m_file.open() && m_file.write("ab") == 2 && m_file.flush()); }
-
     void modeTexts()
     {
         using Result = ModeTextResult;
@@ -90,24 +83,26 @@ private slots:
     {
         QByteArrayList found;
         for (const auto &[name, ddcBus, ddcSwitch] : CONNECTORS)
-            found << QByteArray(name) + ": " + ddcBus + ", " +
-                         (ddcSwitch ? ddcSwitch : "no switch");
-        QCOMPARE(found.join("; "),
-                 QByteArray("vga: /dev/i2c-2, /sys/class/leds/vga-i2c-enb/brightness; "
-                            "hdmi: /dev/i2c-1, no switch"));
+            found << name << ddcBus << (ddcSwitch ? ddcSwitch : "no switch");
+        QCOMPARE(found.join(' '),
+                 QByteArray("vga /dev/i2c-2 /sys/class/leds/vga-i2c-enb/brightness "
+                            "hdmi /dev/i2c-1 no switch"));
     }
 
     void devices()
     {
+        const QString missing = "/nowhere/%1"_s;
+        QTemporaryFile file;
+        QVERIFY(file.open() && file.write("ab") == 2 && file.flush());
         const LogCapture log;
         I2CDevice device;
         QVERIFY(device.CloseDevice());
-        QVERIFY(!device.OpenDevice(m_missing));
+        QVERIFY(!device.OpenDevice(missing));
         QCOMPARE(device.GetErrorString(), "Error opening /nowhere/%1. "_s);
-        QVERIFY(device.OpenDevice(m_file.fileName()));
-        QVERIFY(device.OpenDevice(m_missing)); // keeps the first
+        QVERIFY(device.OpenDevice(file.fileName()));
+        QVERIFY(device.OpenDevice(missing)); // keeps the first
         QVERIFY(device.WriteString("1"_s));
-        QCOMPARE(box::read(m_file.fileName()), QByteArray("1b"));
+        QCOMPARE(box::read(file.fileName()), QByteArray("1b"));
 
         const int descriptor = device.Descriptor();
         ::close(descriptor);
@@ -117,22 +112,6 @@ private slots:
                  "C \"Error opening /nowhere/%1. \"|C \"Close file error. Errno is: 9\""_s);
         QCOMPARE(log.messages().first().function,
                  "virtual bool BaseDevice::OpenDevice(const QString&)"_s);
-    }
-
-    // The rest shows where the main window sets a gamma.
-    void framebuffer()
-    {
-        const LogCapture log;
-        FbDevice *const device = FbDevice::Instance();
-        QVERIFY(device->CloseDevice());
-        QVERIFY(!device->OpenDevice(m_missing));
-        QVERIFY(device->OpenDevice(m_file.fileName()));
-        QVERIFY(device->OpenDevice(m_missing)); // keeps the first
-        QVERIFY(!device->GetVarScreenInfo());
-        QCOMPARE(log.texts("fbdevice"_s).join(u'|'),
-                 "C Error opening \"/nowhere/%1\". |"
-                 "C Ioctl FBIOGET_VSCREENINFO fail! Inappropriate ioctl for device"_s);
-        FbDevice::ReleaseInstance();
     }
 };
 
