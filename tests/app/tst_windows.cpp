@@ -90,6 +90,13 @@ private slots:
                     WatchfulStyle::cutTexts << days->model()->index(0, day).data().toString();
             }
             QCOMPARE(catalogue + WatchfulStyle::cutTexts.join(u','), catalogue);
+            if (!isWordy && about.logicalDpiX() == 96) {
+                const auto *form = about.findChild<QWidget *>("layoutWidget"_s);
+                QCOMPARE(about.size(), QSize(386, 193));
+                QCOMPARE(form->geometry(), QRect(12, 13, 361, 131));
+                QCOMPARE(about.findChild<QDialogButtonBox *>()->geometry(),
+                         QRect(50, 150, 325, 23));
+            }
             for (const auto *box : window.findChildren<QAbstractSpinBox *>())
                 QVERIFY(box->isHidden() || box->width() >= box->minimumSizeHint().width());
             // The question comes when the smallest mode may be on the screen: 800 x 600, less the
