@@ -16,7 +16,7 @@ from gi.repository import Gio, GLib  # noqa: E402
 
 import driver  # noqa: E402
 import tables  # noqa: E402
-from driver import keys, wait_for, wait_for_window, wait_until_gone  # noqa: E402
+from driver import keys, wait_for_window, wait_until_gone  # noqa: E402
 
 HOME = Path('/opt/moniconf')
 LOG = Path('/tmp/entry.log')
@@ -52,12 +52,6 @@ class Package(unittest.TestCase):
 
         entry = next(str(file) for file in files if file.suffix == '.desktop')
         self.assertTrue(launch(entry))
-        window = wait_for_window('Display Settings')
-        driver.click_row(window, 0)
-        driver.click(window, *driver.APPLY)
-        wait_for_window('Information')
-        keys('Tab', 'space')
-        wait_for(lambda: driver.stored_mode() == '800x600@60', 'stored mode')
         window = wait_for_window('Display Settings')
         driver.choose(window, 'Preference')
         wait_for_window('Preference')
