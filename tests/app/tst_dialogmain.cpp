@@ -105,7 +105,7 @@ Action confirmError(const QString &text)
         QVERIFY(box->parentWidget()->isVisible() || QTest::qWaitFor([&] {
                     return (box->geometry().center() - screen.center()).manhattanLength() < 5;
                 }));
-        pressButton(widget, QDialogButtonBox::Ok);
+        box->button(QMessageBox::Ok)->click();
     };
 }
 
@@ -260,14 +260,13 @@ private slots:
     // The monitors and a file that is missing; what their lines see, and how many modes are listed.
     void monitors()
     {
-        const char *const none = "";
-        const char *const onlyHdmi = "vga on, vga failed 3 times, hdmi answered, vga off";
+        const char *const none = "/none";
         const std::tuple<const char *, const char *, const char *, const char *, int> rows[] = {
-            {"none", "1920x1080", none, onlyHdmi, 8},
             {"/tmp/sum.edid", "640x480", none, "vga on, vga answered, vga off", 8},
             {"fail2:1280x1024", "1920x1080", none,
              "vga on, vga failed, vga failed, vga answered, vga off", 4},
-            {"fail3:1280x1024", "1920x1080", none, onlyHdmi, 8},
+            {"fail3:1280x1024", "1920x1080", none,
+             "vga on, vga failed 3 times, hdmi answered, vga off", 8},
             {"garbage", "1920x1080", none, "vga on, vga answered, hdmi answered, vga off", 8},
             {"1280x1024", "1920x1080", "/sys/class/leds/vga-i2c-enb/brightness",
              "vga failed 3 times, hdmi answered", 8},
@@ -279,13 +278,13 @@ private slots:
             qInfo() << vga << hdmi << missing;
             write("/run/simbox/vga"_s, vga);
             write("/run/simbox/hdmi"_s, hdmi);
-            const auto aside = without(qEnvironmentVariable("UMOCKDEV_DIR") +
-                                       QLatin1String(*missing ? missing : "/none"));
+            const auto aside =
+                without(qEnvironmentVariable("UMOCKDEV_DIR") + QLatin1String(missing));
             const LogCapture log;
             open(modes > 0 ? QString() : NO_EDID);
             QCOMPARE(list()->count(), modes);
             QCOMPARE(m_transfers, QLatin1String(seen));
-            QCOMPARE(log.texts("basedevice"_s).size(), *missing ? 1 : 0);
+            QCOMPARE(log.texts("basedevice"_s).size(), missing == none ? 0 : 1);
         }
     }
 
@@ -500,9 +499,6 @@ private slots:
             widget<QComboBox>("m_cmbLanguage")->setCurrentText(language); // if it has that
             offers(item); // without one Apply is off, OK tries all the same
             const Action confirm = confirmError("Cannot parse resolution string."_s);
-            // The window goes first, then the language is written.
-            connect(m_dialog.get(), &QDialog::finished, this,
-                    [&] { QVERIFY(after.isNull() || read(PROFILE) == untouched); });
             const LogCapture capture;
             const ModalAnswers modal(std::vector<Action>(item == "none"_s ? 1 : 0, confirm));
             button ? press(button) : QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
@@ -512,9 +508,7 @@ private slots:
             QCOMPARE(capture.texts("dialogmain"_s).join(u'|'), log);
         };
         const QString chinese = "D 1360x768@60|D \"Chinese\""_s;
-        const QString english = "D 1360x768@60|D \"English\""_s;
         leaves("1360 x 768"_s, ""_s, "m_btnOK", "export LANG=zh_CN.UTF-8\n", chinese);
-        leaves("1360 x 768"_s, "English"_s, "m_btnOK", "export LANG=en_US.UTF-8\n", english);
         leaves("none"_s, "English"_s, "m_btnOK", "export LANG=en_US.UTF-8\n", "D \"English\""_s);
         leaves("1360 x 768"_s, "Chinese"_s, "m_btnOK", QByteArray(),
                chinese + "|C Open /etc/profile failed"_s);

@@ -177,7 +177,6 @@ private slots:
                  QByteArray("a689a66b5dee148d7d5bd486829ff790f9e7ac86"));
         const QByteArray rows[][4] = {
             // The keys, what is in the way; then the date that is set, and what is told or logged.
-            {"Return", "", "2026-01-31 23:10:20", ""},
             {"Home Shift+End 20270315083059 Return", "", "2027-03-15 08:30:59", ""},
             {"Ctrl+A 2027 Return", "", "2026-01-31 23:10:20", ""},
             {"2026-0 Backspace Backspace Backspace 7-3 Return", "", "2027-03-31 23:10:20", ""},
@@ -278,7 +277,6 @@ private slots:
             {NO_FILE, "Right Return", "", "vexastd", "vxotp.desktop", set + "1\n"},
             {set + "2\n", "Left Return", "", "vxotp", "vexastd.desktop", set + "0\n"},
             {set + "x\n", "Right Tab Tab Space", "", "vexastd", links, set + "x\n"},
-            {"AutoStartApp=1\n", "Escape", "", "vexastd", links, "AutoStartApp=1\n"},
             {set + "1\n", "Left Return|Return",
              "cd /etc/xdg/autostart; rm vexastd*; touch vexastd.desktop", "vxotp" + failed, links,
              set + "1\n"},

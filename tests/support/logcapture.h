@@ -27,9 +27,8 @@ public:
     {
         QStringList result;
         for (const Message &message : qAsConst(s_messages)) {
-            const char *const letter = message.type == QtDebugMsg ? "D " : "C ";
             if (message.file == file)
-                result << QLatin1String(letter) + message.text;
+                result << QLatin1String(message.type == QtDebugMsg ? "D " : "C ") + message.text;
         }
         return result;
     }

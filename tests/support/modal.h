@@ -62,11 +62,3 @@ private:
     QWidget *m_current = nullptr;
     QElapsedTimer m_sinceLast;
 };
-
-// Presses a standard button of a dialog or message box; fails when it has none such.
-inline void pressButton(QWidget *dialog, QDialogButtonBox::StandardButton which)
-{
-    const auto *box = dialog->findChild<QDialogButtonBox *>();
-    QVERIFY2(box && box->button(which), "no such button");
-    box->button(which)->click();
-}
