@@ -2,11 +2,9 @@
 # SPDX-License-Identifier: MIT
 """Fails when a source file includes what its layer may not; see docs/architecture.md."""
 
+import pathlib
 import re
 import sys
-from pathlib import Path
-
-ROOT = Path(__file__).resolve().parent.parent
 
 # The most specific place first. A place may always include itself.
 LAYERS = {
@@ -28,11 +26,14 @@ def place_of(path):
 
 
 def breaches():
-    for source in sorted([*ROOT.glob('*/**/*.h'), *ROOT.glob('*/**/*.cpp')]):
-        name = source.relative_to(ROOT).as_posix()
+    root = pathlib.Path(__file__).resolve().parent.parent
+    for source in sorted(root.glob('*/**/*')):
+        name = source.relative_to(root).as_posix()
         place = place_of(name)
+        if place is None or source.suffix not in ('.h', '.cpp'):
+            continue
         for included in re.findall(r'^\s*#\s*include\s+["<]([^">]+)', source.read_text(), re.M):
-            if place and place_of(included) not in (None, place, *LAYERS[place]):
+            if place_of(included) not in (None, place, *LAYERS[place]):
                 yield f'{name}: may not include {included}'
 
 

@@ -470,23 +470,35 @@ private slots:
         }
     }
 
-    // On a server whose screen can be turned, unlike the box's.
-    void rejectsOnTurnedScreen()
+    // The second server's screen can be turned, unlike the box's.
+    void restoresSmallerAndTurned()
     {
+        const auto display = qScopeGuard([] { qputenv("DISPLAY", ":0"); });
         QProcess server;
-        const auto ended = qScopeGuard([&] {
-            qputenv("DISPLAY", ":0");
-            server.kill();
-            server.waitForFinished();
-        });
         server.start("Xephyr"_s, {":1"_s, "-screen"_s, "1280x1024"_s, "-noreset"_s});
-        qputenv("DISPLAY", ":1");
-        QTRY_VERIFY(xrandr("-o left"_s).contains("1024x1280+0+0 left"_s));
-        const QString before = xrandr();
-        ScreenConfiguration configuration;
-        QVERIFY(xrandr("-s 800x600"_s).contains("600x800"_s));
-        configuration.restoreIfLost({1280, 1024, 60});
-        QCOMPARE(xrandr(), before);
+        const std::tuple<const char *, QString, QString, QString> rows[] = {
+            // the server, what is shown before and how xrandr tells that, and what comes then
+            {":0", "-s 800x600"_s, "800 x 600"_s, "-s 1920x1080"_s},
+            {":1", "-o left"_s, "1024x1280+0+0 left"_s, "-s 800x600"_s},
+        };
+        const LogCapture log;
+        for (const auto &[place, first, told, then] : rows) {
+            qputenv("DISPLAY", place);
+            QTRY_VERIFY(xrandr(first).contains(told));
+            const QString before = xrandr();
+            ScreenConfiguration configuration;
+            QVERIFY(xrandr(then) != before);
+            configuration.restoreIfLost({640, 480, 60});
+            QCOMPARE(xrandr(), before);
+        }
+        ScreenConfiguration gone;
+        server.kill();
+        server.waitForFinished();
+        gone.restoreIfLost({640, 480, 60});
+        const QString lost = "C xrandr has not brought the picture back, which "_s;
+        QCOMPARE(log.texts("screenconfiguration"_s),
+                 QStringList({lost + "is shown again."_s, lost + "is shown again."_s,
+                              lost + "cannot be shown again."_s}));
     }
 
     void leaves()

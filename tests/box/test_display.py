@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Modes, through the real window: chosen, kept, taken back."""
 
+import os
 import signal
 import subprocess
 import time
@@ -97,7 +98,9 @@ class Display(unittest.TestCase):
     def test_ignored_signals(self):
         """Neither a terminal that is left under nohup nor a log without a reader ends the tool."""
         self.tool.stop()
-        self.tool = driver.Tool('-c', f'exec nohup {driver.PROGRAM} 2> >(true)', program='bash')
+        reader, log = os.pipe()
+        self.tool = driver.Tool(driver.PROGRAM, program='nohup', log=f'/proc/self/fd/{log}')
+        os.close(reader)
         self.apply(0)
         self.tool.process.send_signal(signal.SIGHUP)
         keys('Tab', 'space')

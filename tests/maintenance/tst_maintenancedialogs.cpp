@@ -56,12 +56,13 @@ QString shown(QWidget *dialog)
     return dialog->windowTitle() + ": "_s + fields.join(", "_s);
 }
 
-// Links both applications and leaves an old copy of each script.
+// Links both applications and leaves an old copy of one script, and for the other a link that leads
+// nowhere.
 void prepare()
 {
     QCOMPARE(std::system("set -e; cd /etc/xdg/autostart; rm -rf /tmp/*.sh v*; "
                          "ln -s /usr/share/applications/v* .; "
-                         "echo old | tee /tmp/calclock.sh >/tmp/autobootapp.sh"),
+                         "echo old >/tmp/calclock.sh; ln -s nowhere /tmp/autobootapp.sh"),
              0);
 }
 
@@ -181,7 +182,8 @@ private slots:
             {"Ctrl+A 2027 Return", "", "2026-01-31 23:10:20", ""},
             {"2026-0 Backspace Backspace Backspace 7-3 Return", "", "2027-03-31 23:10:20", ""},
             {"Tab Tab Tab Tab 8 Up Tab 7 Return", "", "2026-01-31 23:09:07", ""},
-            {"End 08 Tab Shift+Tab End 07 Return", "", "2026-01-31 23:10:07", ""},
+            {"2027 End 08 Tab Shift+Tab End 07 Return", "", "2027-01-31 23:10:07", ""},
+            {"End Left Delete Return", "", "2026-01-31 23:10:20", ""},
             {"Escape", "", "", ""},
             {"Return", "rm -f /tmp/calclock.sh; mkdir -p /tmp/calclock.sh/x", "",
              "|void DialogMain::lblDateTime_mouseDoubleClicked(): Copying calclock.sh failed."},
