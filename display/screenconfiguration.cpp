@@ -103,7 +103,8 @@ void ScreenConfiguration::restoreIfLost(const DisplayMode &wanted)
     if (!isPictureLost(now, m_before, wanted))
         return;
     xcb_connection_t *const x = m_x.get();
-    // All at once dark: what is lit has to lie on the screen, also while that changes its size.
+    // All dark at once: what is lit has to lie on the screen, also while the screen changes its
+    // size.
     for (const LitCrtc &crtc : now)
         set(x, m_configTime, {crtc.id, 0, 0, 0, 0, XCB_NONE, XCB_RANDR_ROTATION_ROTATE_0, {}});
     const xcb_screen_t &before = screen(x);

@@ -16,7 +16,7 @@ struct xcb_connection_t;
 struct LitCrtc
 {
     std::uint32_t id;
-    std::int16_t x; // of its left top corner on the screen, in pixels, as y
+    std::int16_t x; // of its top left corner on the screen, in pixels, as y
     std::int16_t y;
     std::uint16_t width; // as it lies on the screen, in pixels, as height
     std::uint16_t height;

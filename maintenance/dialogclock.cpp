@@ -31,7 +31,8 @@ DialogClock::DialogClock(QWidget *parent)
     , ui(new Ui::DialogClock)
 {
     ui->setupUi(this);
-    // The toolkit leaves the week's first day out when it measures the names of the days.
+    // The toolkit leaves the week's first day out when it measures the names of the days, and may
+    // cut it. Two letters' height for each has room for the widest.
     ui->m_dateTimeEdit->calendarWidget()->setMinimumWidth(15 * fontMetrics().height());
 }
 
