@@ -96,10 +96,11 @@ class Display(unittest.TestCase):
                 self.ends(number, '1920x1080M@60', '1920x1080')
 
     def test_ignored_signals(self):
-        """Neither a terminal that is left under nohup nor a log without a reader ends the tool."""
+        """Neither a terminal that goes, as under nohup, nor a log without a reader ends the tool."""
         self.tool.stop()
         reader, log = os.pipe()
-        self.tool = driver.Tool(driver.PROGRAM, program='nohup', log=f'/proc/self/fd/{log}')
+        self.tool = driver.Tool('-c', f"trap '' HUP; exec {driver.PROGRAM}", program='sh',
+                                log=f'/proc/self/fd/{log}')
         os.close(reader)
         self.apply(0)
         self.tool.process.send_signal(signal.SIGHUP)
